@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <Tessera/TesseraExport.h>
+
+#include <QAbstractSpinBox>
+#include <QString>
+#include <QValidator>
+
+namespace nsUI {
+
+class SpinBoxCore;
+
+/*!
+    A spin box for an unsigned 16-bit integer (unsigned short), shown in decimal, hexadecimal or binary.
+
+    The value is held in its exact type; a value of any other of the eight fixed widths has a box of its own. A new
+    box shows 0 and has the range 0 to 99, single step 1, base 10 and neither prefix nor suffix.
+
+    Setters do nothing when nothing changes. A changed value is stored, shown, and then told by valueChanged(), in
+    that order; a changed text is told by textChanged() before that. Bad arguments are ignored silently, but for a
+    display base out of range, which is logged.
+
+    Typed text reaches the value at every keystroke that makes it acceptable, as long as keyboardTracking() is on.
+    With it off typing never reaches the value: there is no commit on Enter or when the focus leaves.
+
+    What to know before using it in a form:
+    - The size hint does not know the range. Give the box a minimum width, or let its layout do so.
+    - Like every spin box of Qt it steps on a mouse wheel without having the focus.
+    - setSpecialValueText() refreshes nothing: the text shows with the next change.
+*/
+class TESSERA_EXPORT CU16SpinBox : public QAbstractSpinBox
+{
+    Q_OBJECT
+
+public:
+    explicit CU16SpinBox(QWidget* parent = nullptr);
+    ~CU16SpinBox() override;
+
+    unsigned short value() const; //!< always within minimum() and maximum()
+    unsigned short minimum() const;
+    unsigned short maximum() const;
+    unsigned short singleStep() const;
+    QAbstractSpinBox::StepType stepType() const;
+    QString prefix() const;
+    QString suffix() const;
+    int displayIntegerBase() const;
+
+    //! The shown text without its prefix and the white space around it. The suffix stays on.
+    QString cleanText() const;
+
+    //! A minimum above the maximum takes the maximum along. The value follows into the range.
+    void setMinimum(const unsigned short& nVal);
+
+    //! A maximum below the minimum takes the minimum along. The value follows into the range.
+    void setMaximum(const unsigned short& nVal);
+
+    //! Sets both bounds; ignored when \a nMin is above \a nMax.
+    void setRange(const unsigned short& nMin, const unsigned short& nMax);
+
+    //! The step of DefaultStepType.
+    void setSingleStep(const unsigned short& nVal);
+
+    //! AdaptiveDecimalStepType steps by a tenth of the value's decimal magnitude, at least by 1.
+    void setStepType(QAbstractSpinBox::StepType stepType);
+
+    //! Shown before the number, and taken off either end of a typed text before it is read.
+    void setPrefix(const QString& sPrefix);
+
+    //! Shown after the number. It is part of what is parsed: with a suffix, text typed in front of it is refused.
+    void setSuffix(const QString& sSuffix);
+
+    /*!
+        2 to 36. Base 16 shows the digits as the host library writes them and base 2 shows bits, both without
+        leading zeros. Every other base shows decimal text; typed text is read in the base all the same, so a box of
+        base 8 takes a typed 10 as eight.
+
+        A base out of range is logged as a warning and 10 is taken in its place.
+    */
+    void setDisplayIntegerBase(int nBase);
+
+    /*!
+        The state of \a sInput, of which \a nPos is the cursor position. \a sInput is completed with prefix and suffix.
+
+        A number within the range is Acceptable; one below the minimum is Intermediate, so that it can be typed
+        towards the range; all else is Invalid, a text that begins with "-" always. An empty text and a "+" are
+        Intermediate, unless the range is one value.
+        The answer for the last text is kept, and returned again for the same text even if the range or the base has
+        changed since.
+    */
+    QValidator::State validate(QString& sInput, int& nPos) const override;
+
+    //! Does nothing: a text that is not acceptable stays as typed.
+    void fixup(QString& sInput) const override;
+
+    /*!
+        Moves the value by \a nSteps steps and selects the number.
+
+        The sum is cut to the type's own 16 bits before it is brought into the range: a step beyond the type's limit
+        comes in from the other side. With wrapping() the value wraps within the range; over a range as wide as the
+        type it wraps in the type.
+    */
+    void stepBy(int nSteps) override;
+
+    //! The value of \a sText, for a text that validate() calls Acceptable; else one of the bounds.
+    virtual unsigned short valueFromText(const QString& sText) const;
+
+    //! The number of \a nVal in the display base, without prefix and suffix.
+    virtual QString textFromValue(const unsigned short& nVal) const;
+
+Q_SIGNALS:
+    //! The value has changed, by whatever means. Sent after textChanged().
+    void valueChanged(const unsigned short& nVal);
+
+    //! The shown text was refreshed. Sent while the signals of the line edit are blocked; not sent for typed text.
+    void textChanged(const QString& sText);
+
+public Q_SLOTS:
+    //! Sets the value, brought into the range.
+    void setValue(const unsigned short& nVal);
+
+    //! Up below the maximum and down above the minimum; both with wrapping().
+    StepEnabled stepEnabled() const override;
+
+    //! Selects the number without prefix and suffix; the special value text whole.
+    void selectAll();
+
+private:
+    friend class SpinBoxCore;
+
+    void editorTextChanged(const QString& sText);
+    void updateEdit();
+    bool specialValue() const;
+    QString stripped(const QString& sText, int* pPos) const;
+    unsigned short validateAndInterpret(QString& sInput, int& nPos, QValidator::State& state) const;
+    static bool isSigned();
+
+    unsigned short m_nValue = 0;
+    unsigned short m_nMinimum = 0;
+    unsigned short m_nMaximum = 99;
+    unsigned short m_nSingleStep = 1;
+    QAbstractSpinBox::StepType m_stepType = QAbstractSpinBox::DefaultStepType;
+    int m_nDisplayIntegerBase = 10;
+    QString m_sPrefix;
+    QString m_sSuffix;
+    mutable QString m_sCachedText;
+    mutable QValidator::State m_cachedState = QValidator::Invalid;
+    mutable unsigned short m_nCachedValue = 0;
+    bool m_bCleared = false;
+};
+
+} // namespace nsUI

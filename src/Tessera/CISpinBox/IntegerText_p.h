@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <CCommon.h>
+
+#include <QByteArray>
+#include <QString>
+#include <QStringRef>
+#include <QtEndian>
+
+#include <type_traits>
+
+namespace nsUI {
+
+//! A value and its text in the display base, without prefix and suffix. Plain functions, no widgets.
+namespace IntegerText {
+
+template <class T>
+QByteArray bigEndianBytes(T nVal)
+{
+    const auto nBytes = qToBigEndian(static_cast<std::make_unsigned_t<T>>(nVal));
+    return QByteArray(reinterpret_cast<const char*>(&nBytes), sizeof nBytes);
+}
+
+//! \a sText without its leading zeros and separators, the last character excepted.
+inline QString significantDigits(QString sText, QChar cSeparator)
+{
+    int nLeading = 0;
+    while (nLeading < sText.size() - 1
+           && (sText.at(nLeading) == QLatin1Char('0') || sText.at(nLeading) == cSeparator)) {
+        ++nLeading;
+    }
+    return sText.remove(0, nLeading);
+}
+
+inline QString decimal(int nVal)
+{
+    return QString::number(nVal, 10);
+}
+inline QString decimal(uint nVal)
+{
+    return QString::number(nVal, 10);
+}
+inline QString decimal(qlonglong nVal)
+{
+    return QString::number(nVal, 10);
+}
+inline QString decimal(qulonglong nVal)
+{
+    return QString::number(nVal, 10);
+}
+
+//! Base 2 and 16 show the bit pattern of the type's width through the host library; every other base is decimal.
+template <class T>
+QString fromValue(T nVal, int nBase)
+{
+    const QChar cSeparator;
+    switch (nBase) {
+    case 2:
+        return significantDigits(CCommon::byteAttryToBin(bigEndianBytes(nVal), cSeparator), cSeparator);
+    case 16:
+        return significantDigits(CCommon::byteAttryToHex(bigEndianBytes(nVal), cSeparator), cSeparator);
+    default:
+        return decimal(+nVal);
+    }
+}
+
+//! Reads \a sText in \a nBase by the C locale's rules. False when it is no number or does not fit T.
+template <class T>
+bool toValue(const QStringRef& sText, int nBase, T* pVal)
+{
+    bool ok = false;
+    if constexpr (std::is_signed_v<T>) {
+        const qlonglong nParsed = sText.toLongLong(&ok, nBase);
+        *pVal = static_cast<T>(nParsed);
+        return ok && *pVal == nParsed;
+    } else {
+        const qulonglong nParsed = sText.toULongLong(&ok, nBase);
+        *pVal = static_cast<T>(nParsed);
+        return ok && *pVal == nParsed;
+    }
+}
+
+} // namespace IntegerText
+} // namespace nsUI

@@ -1,0 +1,133 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>FontSettingDlg</name>
+    <message>
+        <source>Font Settings</source>
+        <translation>字体设置</translation>
+    </message>
+    <message>
+        <source>Font Size:</source>
+        <translation>字号：</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>倾斜</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>加粗</translation>
+    </message>
+    <message>
+        <source>Example</source>
+        <translation>示例</translation>
+    </message>
+</context>
+<context>
+    <name>Translator</name>
+    <message>
+        <source>True</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Undefined</source>
+        <translation>未定义</translation>
+    </message>
+</context>
+<context>
+    <name>nsUI::CBitDialog</name>
+    <message>
+        <source>Bit Settings</source>
+        <translation>位设置</translation>
+    </message>
+    <message>
+        <source>HEX:</source>
+        <translation>HEX:</translation>
+    </message>
+    <message>
+        <source>BIN:</source>
+        <translation>BIN:</translation>
+    </message>
+</context>
+<context>
+    <name>nsUI::CBitModel</name>
+    <message>
+        <source>Bit Position</source>
+        <translation>位序号</translation>
+    </message>
+    <message>
+        <source>Bit Value</source>
+        <translation>位值</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+</context>
+<context>
+    <name>nsUI::CPenDialog</name>
+    <message>
+        <source>Pen Settings</source>
+        <translation>画笔设置</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>颜色：</translation>
+    </message>
+    <message>
+        <source>Line Width:</source>
+        <translation>线宽：</translation>
+    </message>
+    <message>
+        <source>Style:</source>
+        <translation>样式：</translation>
+    </message>
+    <message>
+        <source>NoPen</source>
+        <translation>无画笔</translation>
+    </message>
+    <message>
+        <source>SolidLine</source>
+        <translation>实线</translation>
+    </message>
+    <message>
+        <source>DashLine</source>
+        <translation>虚线</translation>
+    </message>
+    <message>
+        <source>DotLine</source>
+        <translation>点线</translation>
+    </message>
+    <message>
+        <source>DashDotLine</source>
+        <translation>虚点线</translation>
+    </message>
+    <message>
+        <source>DashDotDotLine</source>
+        <translation>虚点点线</translation>
+    </message>
+    <message>
+        <source>Undefine</source>
+        <translation>未定义</translation>
+    </message>
+</context>
+<context>
+    <name>nsUI::CustomTextBrowser</name>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+</context>
+<context>
+    <name>nsUI::FontSettingDlg</name>
+    <message>
+        <source>Example Text</source>
+        <translation>示例文本</translation>
+    </message>
+</context>
+</TS>
