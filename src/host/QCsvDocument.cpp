@@ -61,8 +61,8 @@ bool parse(const QByteArray& tUtf8, const tagCsvConf& tConf, Rows* pRows)
     csv_set_quote(&parser, static_cast<unsigned char>(tConf.cQuote.toLatin1()));
     csv_set_space_func(&parser, isSpace);
     const auto nSize = static_cast<size_t>(tUtf8.size());
-    return csv_parse(&parser, tUtf8.constData(), nSize, endField, endRow, pRows) == nSize
-           && csv_fini(&parser, endField, endRow, pRows) == 0;
+    return csv_parse(&parser, tUtf8.constData(), nSize, endField, endRow, pRows) == nSize &&
+           csv_fini(&parser, endField, endRow, pRows) == 0;
 }
 
 } // namespace

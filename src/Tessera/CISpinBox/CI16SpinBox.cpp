@@ -115,9 +115,7 @@ QValidator::State CI16SpinBox::validate(QString& sInput, int& nPos) const
     return state;
 }
 
-void CI16SpinBox::fixup(QString&) const
-{
-}
+void CI16SpinBox::fixup(QString&) const {}
 
 void CI16SpinBox::stepBy(int nSteps)
 {

@@ -115,9 +115,7 @@ QValidator::State CI32SpinBox::validate(QString& sInput, int& nPos) const
     return state;
 }
 
-void CI32SpinBox::fixup(QString&) const
-{
-}
+void CI32SpinBox::fixup(QString&) const {}
 
 void CI32SpinBox::stepBy(int nSteps)
 {

@@ -115,9 +115,7 @@ QValidator::State CI64SpinBox::validate(QString& sInput, int& nPos) const
     return state;
 }
 
-void CI64SpinBox::fixup(QString&) const
-{
-}
+void CI64SpinBox::fixup(QString&) const {}
 
 void CI64SpinBox::stepBy(int nSteps)
 {

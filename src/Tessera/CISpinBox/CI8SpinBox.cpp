@@ -115,9 +115,7 @@ QValidator::State CI8SpinBox::validate(QString& sInput, int& nPos) const
     return state;
 }
 
-void CI8SpinBox::fixup(QString&) const
-{
-}
+void CI8SpinBox::fixup(QString&) const {}
 
 void CI8SpinBox::stepBy(int nSteps)
 {

@@ -115,9 +115,7 @@ QValidator::State CU16SpinBox::validate(QString& sInput, int& nPos) const
     return state;
 }
 
-void CU16SpinBox::fixup(QString&) const
-{
-}
+void CU16SpinBox::fixup(QString&) const {}
 
 void CU16SpinBox::stepBy(int nSteps)
 {

@@ -115,9 +115,7 @@ QValidator::State CU32SpinBox::validate(QString& sInput, int& nPos) const
     return state;
 }
 
-void CU32SpinBox::fixup(QString&) const
-{
-}
+void CU32SpinBox::fixup(QString&) const {}
 
 void CU32SpinBox::stepBy(int nSteps)
 {

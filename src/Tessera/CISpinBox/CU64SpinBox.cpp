@@ -115,9 +115,7 @@ QValidator::State CU64SpinBox::validate(QString& sInput, int& nPos) const
     return state;
 }
 
-void CU64SpinBox::fixup(QString&) const
-{
-}
+void CU64SpinBox::fixup(QString&) const {}
 
 void CU64SpinBox::stepBy(int nSteps)
 {

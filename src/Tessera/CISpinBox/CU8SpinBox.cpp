@@ -115,9 +115,7 @@ QValidator::State CU8SpinBox::validate(QString& sInput, int& nPos) const
     return state;
 }
 
-void CU8SpinBox::fixup(QString&) const
-{
-}
+void CU8SpinBox::fixup(QString&) const {}
 
 void CU8SpinBox::stepBy(int nSteps)
 {

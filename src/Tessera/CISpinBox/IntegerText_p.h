@@ -8,6 +8,7 @@
 #include <QStringRef>
 #include <QtEndian>
 
+#include <limits>
 #include <type_traits>
 
 namespace nsUI {
@@ -26,8 +27,8 @@ QByteArray bigEndianBytes(T nVal)
 inline QString significantDigits(QString sText, QChar cSeparator)
 {
     int nLeading = 0;
-    while (nLeading < sText.size() - 1
-           && (sText.at(nLeading) == QLatin1Char('0') || sText.at(nLeading) == cSeparator)) {
+    while (nLeading < sText.size() - 1 &&
+           (sText.at(nLeading) == QLatin1Char('0') || sText.at(nLeading) == cSeparator)) {
         ++nLeading;
     }
     return sText.remove(0, nLeading);
@@ -50,7 +51,8 @@ inline QString decimal(qulonglong nVal)
     return QString::number(nVal, 10);
 }
 
-//! Base 2 and 16 show the bit pattern of the type's width through the host library; every other base is decimal.
+//! Base 2 and 16 show the bit pattern of the type's width through the host library; every other base is
+//! decimal.
 template <class T>
 QString fromValue(T nVal, int nBase)
 {
@@ -65,20 +67,53 @@ QString fromValue(T nVal, int nBase)
     }
 }
 
+//! The digit that \a c is in bases up to 36; -1 for every other character.
+inline int digit(QChar c)
+{
+    const ushort nCode = c.unicode();
+    if (nCode >= '0' && nCode <= '9')
+        return nCode - '0';
+    const int nLower = nCode | 0x20;
+    return nLower >= 'a' && nLower <= 'z' ? nLower - 'a' + 10 : -1;
+}
+
+/*!
+    Reads a text of nothing but digits: what is typed nearly always is, and Qt's general parser takes several
+   times as long. False, which says nothing about the text, for signs, prefixes and numbers near the limit of
+   64 bits.
+*/
+inline bool plainDigits(const QStringRef& sText, int nBase, qulonglong* pVal)
+{
+    const qulonglong nLimit = std::numeric_limits<qlonglong>::max() / static_cast<qulonglong>(nBase) - 1;
+    qulonglong nVal = 0;
+    for (const QChar c : sText) {
+        const int nDigit = digit(c);
+        if (nDigit < 0 || nDigit >= nBase || nVal > nLimit)
+            return false;
+        nVal = nVal * static_cast<qulonglong>(nBase) + static_cast<qulonglong>(nDigit);
+    }
+    *pVal = nVal;
+    return !sText.isEmpty();
+}
+
 //! Reads \a sText in \a nBase by the C locale's rules. False when it is no number or does not fit T.
 template <class T>
 bool toValue(const QStringRef& sText, int nBase, T* pVal)
 {
+    using Parsed = std::conditional_t<std::is_signed_v<T>, qlonglong, qulonglong>;
     bool ok = false;
-    if constexpr (std::is_signed_v<T>) {
-        const qlonglong nParsed = sText.toLongLong(&ok, nBase);
-        *pVal = static_cast<T>(nParsed);
-        return ok && *pVal == nParsed;
+    Parsed nParsed = 0;
+    qulonglong nPlain = 0;
+    if (plainDigits(sText, nBase, &nPlain)) {
+        ok = true;
+        nParsed = static_cast<Parsed>(nPlain);
+    } else if constexpr (std::is_signed_v<T>) {
+        nParsed = sText.toLongLong(&ok, nBase);
     } else {
-        const qulonglong nParsed = sText.toULongLong(&ok, nBase);
-        *pVal = static_cast<T>(nParsed);
-        return ok && *pVal == nParsed;
+        nParsed = sText.toULongLong(&ok, nBase);
     }
+    *pVal = static_cast<T>(nParsed);
+    return ok && *pVal == nParsed;
 }
 
 } // namespace IntegerText

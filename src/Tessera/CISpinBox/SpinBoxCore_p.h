@@ -16,8 +16,8 @@
 namespace nsUI {
 
 /*!
-    What the eight integer spin boxes have in common, once. Each box befriends this class and hands its work over
-    with itself as the first argument; value types are those of the box's own members.
+    What the eight integer spin boxes have in common, once. Each box befriends this class and hands its work
+   over with itself as the first argument; value types are those of the box's own members.
 
     Every change of the value goes the same way: store, refresh the line edit, emit valueChanged().
 */
@@ -114,7 +114,8 @@ public:
         return box.m_nValue == box.m_nMinimum && !box.specialValueText().isEmpty();
     }
 
-    //! Shows the value. Tells of the new text while the line edit itself is silent, so no slot of it comes first.
+    //! Shows the value. Tells of the new text while the line edit itself is silent, so no slot of it comes
+    //! first.
     template <class Box>
     static void updateEdit(Box& box)
     {
@@ -137,15 +138,14 @@ public:
     }
 
     /*!
-        \a sText without its prefix and the white space around it. The prefix is taken off either end; the suffix is
-        never taken off. \a pPos moves by the number of characters that were trimmed.
+        \a sText without its prefix and the white space around it. The prefix is taken off either end; the
+       suffix is never taken off. \a pPos moves by the number of characters that were trimmed.
     */
     template <class Box>
     static QStringRef stripped(const Box& box, const QString& sText, int* pPos)
     {
         QStringRef sRest(&sText);
-        const QString sSpecial = box.specialValueText();
-        if (!box.m_sPrefix.isEmpty() && (sSpecial.isEmpty() || sText != sSpecial))
+        if (!box.m_sPrefix.isEmpty() && !isSpecialText(box, sText))
             sRest = withoutPrefix(sText, box.m_sPrefix);
         const QStringRef sTrimmed = sRest.trimmed();
         if (pPos != nullptr)
@@ -153,7 +153,8 @@ public:
         return sTrimmed;
     }
 
-    //! Examines \a sInput, completes it with prefix and suffix, and remembers what was found for the next call.
+    //! Examines \a sInput, completes it with prefix and suffix, and remembers what was found for the next
+    //! call.
     template <class Box>
     static auto validateAndInterpret(const Box& box, QString& sInput, int& nPos, QValidator::State& state)
     {
@@ -202,8 +203,7 @@ public:
         const auto nStep = box.m_stepType == QAbstractSpinBox::AdaptiveDecimalStepType
                                ? IntegerStep::adaptive(box.m_nValue, nSteps)
                                : box.m_nSingleStep;
-        setValue(box, IntegerStep::moved(box.m_nValue, nStep, nSteps, box.m_nMinimum, box.m_nMaximum,
-                                         box.wrapping()));
+        setValue(box, IntegerStep::moved(box.m_nValue, nStep, nSteps, box.m_nMinimum, box.m_nMaximum, box.wrapping()));
         box.selectAll();
     }
 
@@ -270,9 +270,16 @@ private:
     template <class Box>
     static bool isDecorated(const Box& box, const QString& sInput, const QStringRef& sCopy)
     {
-        return sCopy.position() == box.m_sPrefix.size()
-               && sCopy.position() + sCopy.size() + box.m_sSuffix.size() == sInput.size()
-               && sInput.startsWith(box.m_sPrefix) && sInput.endsWith(box.m_sSuffix);
+        return sCopy.position() == box.m_sPrefix.size() &&
+               sCopy.position() + sCopy.size() + box.m_sSuffix.size() == sInput.size() &&
+               sInput.startsWith(box.m_sPrefix) && sInput.endsWith(box.m_sSuffix);
+    }
+
+    template <class Box>
+    static bool isSpecialText(const Box& box, const QString& sText)
+    {
+        const QString sSpecial = box.specialValueText();
+        return !sSpecial.isEmpty() && sText == sSpecial;
     }
 
     // The end is compared with the prefix too: a text that is wrapped in it on both sides loses both.
@@ -321,7 +328,8 @@ private:
         return stateOf(box, *pVal);
     }
 
-    //! A number outside the range is Intermediate as long as more digits can bring it in, on its side of zero.
+    //! A number outside the range is Intermediate as long as more digits can bring it in, on its side of
+    //! zero.
     template <class Box, class T>
     static QValidator::State stateOf(const Box& box, T nVal)
     {

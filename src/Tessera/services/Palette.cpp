@@ -72,8 +72,8 @@ QColor TesseraGlobal::getColor(e_ColorType type, e_ColorLightness lightness) con
 
 QColor TesseraGlobal::getAdaptiveTextColor(const QColor& background)
 {
-    const double luminance = 0.2126 * linear(background.redF()) + 0.7152 * linear(background.greenF())
-                             + 0.0722 * linear(background.blueF());
+    const double luminance =
+        0.2126 * linear(background.redF()) + 0.7152 * linear(background.greenF()) + 0.0722 * linear(background.blueF());
     return luminance > 0.179 ? Qt::black : Qt::white;
 }
 

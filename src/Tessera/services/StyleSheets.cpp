@@ -7,8 +7,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTimer>
 #include <QtDebug>
+#include <QTimer>
 
 namespace nsUI {
 namespace {
@@ -48,8 +48,7 @@ QString joined(const QStringList& names)
     return names.join(QLatin1Char(','));
 }
 
-void report(const QStringList& missing, const QStringList& failed, const QStringList& unused,
-            const QStringList& loaded)
+void report(const QStringList& missing, const QStringList& failed, const QStringList& unused, const QStringList& loaded)
 {
     if (!missing.isEmpty())
         qWarning() << "Miss qss File:" << joined(missing);

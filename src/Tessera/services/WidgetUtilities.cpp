@@ -139,8 +139,8 @@ bool TesseraGlobal::autoSetToolTips(QObject* object, const QString& toolTip)
         connections.insert(object, pRule->track(object));
         // Direct: the entry must be gone before another object can take the address.
         QObject::connect(
-            object, &QObject::destroyed, m_pData.get(),
-            [&connections](QObject* pGone) { connections.remove(pGone); }, Qt::DirectConnection);
+            object, &QObject::destroyed, m_pData.get(), [&connections](QObject* pGone) { connections.remove(pGone); },
+            Qt::DirectConnection);
     }
     return true;
 }

@@ -63,7 +63,8 @@ QSize CDSpinBox::fittingSize(const QSize& tBase) const
     const QSize tContents(nWidth + 2, tBase.height());
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED // the application's strut is 0 unless a host sets one
-    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, tContents, this)
+    return style()
+        ->sizeFromContents(QStyle::CT_SpinBox, &option, tContents, this)
         .expandedTo(QApplication::globalStrut());
     QT_WARNING_POP
 }

@@ -15,9 +15,9 @@ const char* const c_translator[] = {
 };
 
 const char* const c_fontSettings[] = {
-    QT_TRANSLATE_NOOP("FontSettingDlg", "Font Settings"),     QT_TRANSLATE_NOOP("FontSettingDlg", "Font Size:"),
-    QT_TRANSLATE_NOOP("FontSettingDlg", "Italic"),            QT_TRANSLATE_NOOP("FontSettingDlg", "Bold"),
-    QT_TRANSLATE_NOOP("FontSettingDlg", "Example"),           QT_TRANSLATE_NOOP("nsUI::FontSettingDlg", "Example Text"),
+    QT_TRANSLATE_NOOP("FontSettingDlg", "Font Settings"), QT_TRANSLATE_NOOP("FontSettingDlg", "Font Size:"),
+    QT_TRANSLATE_NOOP("FontSettingDlg", "Italic"),        QT_TRANSLATE_NOOP("FontSettingDlg", "Bold"),
+    QT_TRANSLATE_NOOP("FontSettingDlg", "Example"),       QT_TRANSLATE_NOOP("nsUI::FontSettingDlg", "Example Text"),
 };
 
 const char* const c_bits[] = {
@@ -27,11 +27,11 @@ const char* const c_bits[] = {
 };
 
 const char* const c_pen[] = {
-    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "Pen Settings"),   QT_TRANSLATE_NOOP("nsUI::CPenDialog", "Color:"),
-    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "Line Width:"),    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "Style:"),
-    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "NoPen"),          QT_TRANSLATE_NOOP("nsUI::CPenDialog", "SolidLine"),
-    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "DashLine"),       QT_TRANSLATE_NOOP("nsUI::CPenDialog", "DotLine"),
-    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "DashDotLine"),    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "DashDotDotLine"),
+    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "Pen Settings"), QT_TRANSLATE_NOOP("nsUI::CPenDialog", "Color:"),
+    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "Line Width:"),  QT_TRANSLATE_NOOP("nsUI::CPenDialog", "Style:"),
+    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "NoPen"),        QT_TRANSLATE_NOOP("nsUI::CPenDialog", "SolidLine"),
+    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "DashLine"),     QT_TRANSLATE_NOOP("nsUI::CPenDialog", "DotLine"),
+    QT_TRANSLATE_NOOP("nsUI::CPenDialog", "DashDotLine"),  QT_TRANSLATE_NOOP("nsUI::CPenDialog", "DashDotDotLine"),
     QT_TRANSLATE_NOOP("nsUI::CPenDialog", "Undefine"),
 };
 
