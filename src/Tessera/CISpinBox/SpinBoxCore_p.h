@@ -120,8 +120,8 @@ public:
     static void updateEdit(Box& box)
     {
         QLineEdit* const pEdit = box.lineEdit();
-        const bool special = box.specialValue();
-        const QString sNew = special ? box.specialValueText() : decorated(box, box.textFromValue(box.m_nValue));
+        const QString sNew =
+            box.specialValue() ? box.specialValueText() : decorated(box, box.textFromValue(box.m_nValue));
         if (box.m_bCleared || sNew == pEdit->displayText())
             return;
 
@@ -131,7 +131,7 @@ public:
         const bool wasBlocked = pEdit->blockSignals(true);
         pEdit->setText(sNew);
         Q_EMIT box.textChanged(sNew);
-        if (!special)
+        if (!box.specialValue())
             placeCursor(box, wasEmpty, nCursor, nSelected);
         box.update();
         pEdit->blockSignals(wasBlocked);
