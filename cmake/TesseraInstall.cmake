@@ -26,5 +26,8 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/TesseraConfigVersion.cmak
 install(FILES ${PROJECT_BINARY_DIR}/TesseraConfig.cmake ${PROJECT_BINARY_DIR}/TesseraConfigVersion.cmake
         DESTINATION ${TESSERA_PACKAGE_DIR})
 
+# Counted from the file itself, so that it is right for a prefix that is given at install time.
+file(RELATIVE_PATH TESSERA_PC_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" TESSERA_PC_PREFIX "${TESSERA_PC_PREFIX}")
 configure_file(cmake/Tessera.pc.in ${PROJECT_BINARY_DIR}/Tessera.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/Tessera.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -40,6 +40,12 @@ QString bytesToText(const QByteArray& tBytes, const QChar& cSeparator, int nDigi
     return sText;
 }
 
+// A character of two code units counts as a letter, whatever it is.
+bool isSeparator(QChar c)
+{
+    return !c.isLetterOrNumber() && !c.isSurrogate();
+}
+
 // The names that QSettings would use, with the application's standing in for a missing organization.
 QString storeOwner()
 {
@@ -74,12 +80,12 @@ QString CCommon::byteAttryToBin(const QByteArray& tBytes, const QChar& cSeparato
 
 QByteArray CCommon::byteAttryFromBin(const QString& sText)
 {
-    const auto nDigits = std::count_if(sText.cbegin(), sText.cend(), [](QChar c) { return c.isLetterOrNumber(); });
+    const auto nDigits = std::count_if(sText.cbegin(), sText.cend(), [](QChar c) { return !isSeparator(c); });
     const int nSize = static_cast<int>((nDigits + c_nBinDigits - 1) / c_nBinDigits);
     QByteArray tBytes(nSize, '\0');
     qint64 nBit = nDigits;
     for (const QChar c : sText) {
-        if (!c.isLetterOrNumber())
+        if (isSeparator(c))
             continue;
         if (c != QLatin1Char('0') && c != QLatin1Char('1'))
             return QByteArray();

@@ -12,7 +12,7 @@
 namespace nsUI {
 
 //! What the one TesseraGlobal holds. A QObject, so that no tracked object calls back after it is gone.
-class TesseraGlobal::PrivateData : public QObject
+class Q_DECL_HIDDEN TesseraGlobal::PrivateData : public QObject
 {
 public:
     PrivateData();

@@ -54,7 +54,10 @@ QSize CDSpinBox::fittingSize(const QSize& tBase) const
 {
     ensurePolished();
     const QFontMetrics metrics = fontMetrics();
-    int nWidth = metrics.horizontalAdvance(prefix() + suffix() + QLatin1Char(' ') + textFromValue(value()));
+    const QString sFixed = prefix() + suffix() + QLatin1Char(' ');
+    // Where Qt's box measures the texts of both ends of the range, this one measures the current text for both.
+    int nWidth = metrics.horizontalAdvance(sFixed + textFromValue(value()));
+    nWidth = std::max(nWidth, metrics.horizontalAdvance(sFixed + textFromValue(value())));
     if (!specialValueText().isEmpty())
         nWidth = std::max(nWidth, metrics.horizontalAdvance(specialValueText()));
 

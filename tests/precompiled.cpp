@@ -1,0 +1,2 @@
+// SPDX-License-Identifier: MIT
+// Owns the precompiled headers of the tests.
