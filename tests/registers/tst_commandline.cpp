@@ -1,0 +1,408 @@
+// SPDX-License-Identifier: MIT
+#include "CommandLine.h"
+#include "SvdTestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextStream>
+
+using namespace registers;
+using namespace svdtest;
+
+namespace {
+
+CommandLine parse(const QStringList& arguments)
+{
+    return parseCommandLine(QStringList{QStringLiteral("tessera-registers")} + arguments);
+}
+
+QStringList split(const char* text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+QByteArray testDevice()
+{
+    return deviceOf(reg("R", "<size>16</size><resetValue>0x00FF</resetValue>",
+                        field("LOW", "<bitRange>[3:0]</bitRange>") +
+                            field("RO", "<bitRange>[7:4]</bitRange>", "<access>read-only</access>") +
+                            field("OUT", "<bitRange>[19:12]</bitRange>")) +
+                    reg("ID", "<access>read-only</access>",
+                        field("F") + field("W", "<bitOffset>1</bitOffset>", "<access>read-write</access>")) +
+                    reg("CMD", "<access>write-only</access>") + reg("ONCE", "<access>writeOnce</access>") +
+                    reg("BIG", "<size>64</size>", field("ALL", "<bitRange>[63:0]</bitRange>")) +
+                    "<cluster><name>C[%s]</name><dim>2</dim><dimIncrement>8</dimIncrement><addressOffset>0x20"
+                    "</addressOffset><cluster><name>D</name><addressOffset>0</addressOffset>" +
+                    reg("S", "", field("F", "<bitRange>[7:0]</bitRange>")) + "</cluster></cluster>");
+}
+
+} // namespace
+
+class tst_CommandLine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void nothingOpensTheSample();
+    void allOptionsAreTaken();
+    void batchIsWantedForFilesOnly_data();
+    void batchIsWantedForFilesOnly();
+    void wrongArgumentsAreRefused_data();
+    void wrongArgumentsAreRefused();
+    void helpAndVersionAreTexts();
+    void aSetTakesEffect_data();
+    void aSetTakesEffect();
+    void aWrongSetIsRefused_data();
+    void aWrongSetIsRefused();
+    void setsAreAppliedInTheirOrder();
+    void oneWrongSetStopsAll();
+    void aSessionHoldsTheSelection();
+    void aFailedSessionLeavesTheOldOne();
+    void anExportIsWritten();
+    void theSampleCanBeExported();
+    void aScreenshotComesFromTheRenderer();
+    void aWrongCallWritesNothing_data();
+    void aWrongCallWritesNothing();
+
+private:
+    QString path(const char* name) const { return m_dir->filePath(QString::fromLatin1(name)); }
+    CommandLine batch(const QStringList& more) const;
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+void tst_CommandLine::initTestCase()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("tessera-registers"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("9.8.7"));
+}
+
+void tst_CommandLine::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    QFile file(path("device.svd"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(testDevice());
+}
+
+CommandLine tst_CommandLine::batch(const QStringList& more) const
+{
+    return parse(QStringList{path("device.svd"), QStringLiteral("--export"), path("out.json")} + more);
+}
+
+void tst_CommandLine::nothingOpensTheSample()
+{
+    const CommandLine commandLine = parse({});
+    QCOMPARE(int(commandLine.action), int(CommandLine::Action::Run));
+    QCOMPARE(commandLine.descriptionFile(), QStringLiteral(":/registers/sample.svd"));
+    QVERIFY(QFile::exists(commandLine.descriptionFile()));
+    QVERIFY(!commandLine.wantsBatch());
+}
+
+void tst_CommandLine::allOptionsAreTaken()
+{
+    const CommandLine commandLine =
+        parse(split("--set A.B=1 dev.svd --set A.B.C=0x2 --export out.json --screenshot=out.png --select A.B"));
+    QCOMPARE(int(commandLine.action), int(CommandLine::Action::Run));
+    QCOMPARE(commandLine.descriptionFile(), QStringLiteral("dev.svd"));
+    QCOMPARE(commandLine.sets.size(), 2);
+    QCOMPARE(commandLine.sets.at(0).path, QStringLiteral("A.B"));
+    QCOMPARE(commandLine.sets.at(0).number, QStringLiteral("1"));
+    QCOMPARE(commandLine.sets.at(1).path, QStringLiteral("A.B.C"));
+    QCOMPARE(commandLine.sets.at(1).number, QStringLiteral("0x2"));
+    QCOMPARE(commandLine.exportFile, QStringLiteral("out.json"));
+    QCOMPARE(commandLine.screenshotFile, QStringLiteral("out.png"));
+    QCOMPARE(commandLine.selectPath, QStringLiteral("A.B"));
+}
+
+void tst_CommandLine::batchIsWantedForFilesOnly_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<bool>("expected");
+
+    QTest::newRow("a file to open") << QStringLiteral("dev.svd") << false;
+    QTest::newRow("values and a selection") << QStringLiteral("--set A.B=1 --select A.B") << false;
+    QTest::newRow("an export") << QStringLiteral("--export out.json") << true;
+    QTest::newRow("a screenshot") << QStringLiteral("--screenshot out.png") << true;
+}
+
+void tst_CommandLine::batchIsWantedForFilesOnly()
+{
+    QFETCH(QString, arguments);
+    QFETCH(bool, expected);
+    QCOMPARE(parse(arguments.split(QLatin1Char(' '))).wantsBatch(), expected);
+}
+
+void tst_CommandLine::wrongArgumentsAreRefused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("part");
+
+    const auto row = [](const char* name, const QStringList& arguments, const char* part) {
+        QTest::newRow(name) << arguments << QString::fromLatin1(part);
+    };
+    row("an unknown option", split("--fast"), "fast");
+    row("an unknown short option", split("-x"), "x");
+    row("two files", split("a.svd b.svd"), "b.svd");
+    row("an option without its value", split("--export"), "export");
+    row("an empty file name", {QStringLiteral("--export"), QString()}, "--export");
+    row("an export given twice", split("--export a --export b"), "only once");
+    row("a set without a number", split("--set A.B"), "PATH=NUMBER");
+    row("a set without a path", split("--set =1"), "PATH=NUMBER");
+    row("one file for both", split("--export a/../x --screenshot ./x"), "one file");
+}
+
+void tst_CommandLine::wrongArgumentsAreRefused()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, part);
+    const CommandLine commandLine = parse(arguments);
+    QCOMPARE(int(commandLine.action), int(CommandLine::Action::Fail));
+    QVERIFY2(commandLine.text.contains(part), qPrintable(commandLine.text));
+}
+
+void tst_CommandLine::helpAndVersionAreTexts()
+{
+    const CommandLine help = parse(split("--help"));
+    QCOMPARE(int(help.action), int(CommandLine::Action::ShowHelp));
+    for (const char* part : {"--set", "--export", "--screenshot", "--select", "FILE.svd", "PATH=NUMBER"}) {
+        QVERIFY(help.text.contains(QLatin1String(part)));
+    }
+    const CommandLine version = parse(split("--version"));
+    QCOMPARE(int(version.action), int(CommandLine::Action::ShowVersion));
+    QCOMPARE(version.text, QStringLiteral("tessera-registers 9.8.7\n"));
+}
+
+void tst_CommandLine::aSetTakesEffect_data()
+{
+    QTest::addColumn<QString>("request");
+    QTest::addColumn<QString>("registerPath");
+    QTest::addColumn<quint64>("expected");
+
+    const auto row = [](const char* name, const char* request, const char* registerPath, quint64 expected) {
+        QTest::newRow(name) << QString::fromLatin1(request) << QString::fromLatin1(registerPath) << expected;
+    };
+    row("a register, decimal", "P.R=258", "P.R", 0x0102);
+    row("a register, hexadecimal", "P.R=0xFFFF", "P.R", 0xFFFF);
+    row("a register, binary", "P.R=0b101", "P.R", 5);
+    row("a field changes its bits only", "P.R.LOW=0", "P.R", 0x00F0);
+    row("a field's largest value", "P.R.LOW=15", "P.R", 0x00FF);
+    row("a field that reaches beyond its register", "P.R.OUT=0xF", "P.R", 0xF0FF);
+    row("a writable field of a read-only register", "P.ID.W=1", "P.ID", 2);
+    row("a write-only register", "P.CMD=7", "P.CMD", 7);
+    row("a register to write once", "P.ONCE=7", "P.ONCE", 7);
+    row("all 64 bits", "P.BIG=18446744073709551615", "P.BIG", ~quint64(0));
+    row("all 64 bits of a field", "P.BIG.ALL=0xFEDCBA9876543210", "P.BIG", 0xFEDCBA9876543210);
+    row("a register in nested clusters", "P.C[1].D.S=3", "P.C[1].D.S", 3);
+    row("a field in nested clusters", "P.C[0].D.S.F=4", "P.C[0].D.S", 4);
+}
+
+void tst_CommandLine::aSetTakesEffect()
+{
+    QFETCH(QString, request);
+    QFETCH(QString, registerPath);
+    QFETCH(quint64, expected);
+    const CommandLine commandLine = parse({path("device.svd"), QStringLiteral("--set"), request});
+    Session session;
+    QString error;
+    QVERIFY2(openSession(commandLine, &session, &error), qPrintable(error));
+    QCOMPARE(session.state->value(session.device->findRegister(registerPath)), expected);
+}
+
+void tst_CommandLine::aWrongSetIsRefused_data()
+{
+    QTest::addColumn<QString>("request");
+    QTest::addColumn<QString>("part");
+
+    const auto row = [](const char* name, const char* request, const char* part) {
+        QTest::newRow(name) << QString::fromLatin1(request) << QString::fromLatin1(part);
+    };
+    row("an unknown peripheral", "X.R=1", "no peripheral \"X\"");
+    row("an unknown register", "P.X=1", "no register or cluster \"X\"");
+    row("an unknown field", "P.R.X=1", "no field \"X\"");
+    row("a peripheral", "P=1", "is a peripheral");
+    row("a read-only register", "P.ID=1", "\"P.ID\" is read-only");
+    row("a read-only field", "P.R.RO=1", "\"P.R.RO\" is read-only");
+    row("a field that inherits read-only", "P.ID.F=1", "\"P.ID.F\" is read-only");
+    row("no number", "P.R=", "not a number");
+    row("a word", "P.R=on", "not a number");
+    row("a negative number", "P.R=-1", "not a number");
+    row("a scaled number", "P.R=1k", "not a number");
+    row("more than 64 bits", "P.BIG=18446744073709551616", "64 bits");
+    row("too large for the register", "P.R=0x10000", "does not fit");
+    row("too large for the field", "P.R.LOW=16", "does not fit");
+    row("too large for the part of the field in the register", "P.R.OUT=0x10", "does not fit");
+}
+
+void tst_CommandLine::aWrongSetIsRefused()
+{
+    QFETCH(QString, request);
+    QFETCH(QString, part);
+    const SvdResult result = read(testDevice());
+    VERIFY_READ(result);
+    DeviceState state(result.device);
+    QString error;
+    const CommandLine commandLine = parse({QStringLiteral("--set"), request});
+    QVERIFY(!applySets(*result.device, state, commandLine.sets, &error));
+    QVERIFY2(error.contains(part), qPrintable(error));
+    QCOMPARE(state.modifiedCount(), 0);
+}
+
+void tst_CommandLine::setsAreAppliedInTheirOrder()
+{
+    const SvdResult result = read(testDevice());
+    VERIFY_READ(result);
+    DeviceState state(result.device);
+    QString error;
+    const CommandLine commandLine = parse(split("--set P.R.LOW=1 --set P.R=0xABCD --set P.R.LOW=2"));
+    QVERIFY(applySets(*result.device, state, commandLine.sets, &error));
+    QCOMPARE(state.value(0), quint64(0xABC2));
+}
+
+void tst_CommandLine::oneWrongSetStopsAll()
+{
+    const SvdResult result = read(testDevice());
+    VERIFY_READ(result);
+    DeviceState state(result.device);
+    QString error;
+    const CommandLine commandLine = parse(split("--set P.R=1 --set P.ID=1"));
+    QVERIFY(!applySets(*result.device, state, commandLine.sets, &error));
+    QCOMPARE(state.value(0), quint64(0x00FF));
+}
+
+void tst_CommandLine::aSessionHoldsTheSelection()
+{
+    Session session;
+    QString error;
+    QVERIFY(openSession(parse({path("device.svd")}), &session, &error));
+    QVERIFY(!session.selection.isValid());
+    const QStringList selecting{path("device.svd"), QStringLiteral("--select"), QStringLiteral("P.R.RO")};
+    QVERIFY(openSession(parse(selecting), &session, &error));
+    QCOMPARE(session.selection.registerIndex, 0);
+    QCOMPARE(session.selection.fieldIndex, 1);
+}
+
+void tst_CommandLine::aFailedSessionLeavesTheOldOne()
+{
+    Session session;
+    QString error;
+    QVERIFY(openSession(parse({path("device.svd")}), &session, &error));
+    const DevicePtr before = session.device;
+    QVERIFY(!openSession(parse({path("none.svd")}), &session, &error));
+    QVERIFY(error.startsWith(path("none.svd")));
+    QVERIFY(session.device == before);
+    QVERIFY(session.state != nullptr);
+
+    error.clear();
+    QVERIFY(!openSession(parse({}), &session, &error, [](qint64, qint64) { return false; }));
+    QVERIFY(error.contains(QStringLiteral("cancelled")));
+}
+
+void tst_CommandLine::anExportIsWritten()
+{
+    QString messages;
+    QTextStream errors(&messages);
+    QCOMPARE(runBatch(batch(split("--set P.R.LOW=0b1 --select P.R")), errors), kExitOk);
+    QVERIFY(messages.isEmpty());
+    QFile file(path("out.json"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonObject exported = QJsonDocument::fromJson(file.readAll()).object();
+    QCOMPARE(exported[QLatin1String("device")].toString(), QStringLiteral("Dev"));
+    const QJsonArray list = exported[QLatin1String("registers")].toArray();
+    QCOMPARE(list.size(), 7);
+    QCOMPARE(list[0].toObject()[QLatin1String("value")].toString(), QStringLiteral("0x00F1"));
+    QCOMPARE(list[0].toObject()[QLatin1String("reset")].toString(), QStringLiteral("0x00FF"));
+}
+
+void tst_CommandLine::theSampleCanBeExported()
+{
+    QString messages;
+    QTextStream errors(&messages);
+    QCOMPARE(runBatch(parse({QStringLiteral("--export"), path("sample.json")}), errors), kExitOk);
+    QFile file(path("sample.json"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(QJsonDocument::fromJson(file.readAll()).object()[QLatin1String("registers")].toArray().size() > 100);
+}
+
+void tst_CommandLine::aScreenshotComesFromTheRenderer()
+{
+    const CommandLine commandLine =
+        batch({QStringLiteral("--screenshot"), path("out.png"), QStringLiteral("--select"), QStringLiteral("P.CMD")});
+    QString messages;
+    QTextStream errors(&messages);
+    const auto draws = [](const Session& session, QByteArray* png, QString*) {
+        *png = "picture of " + QByteArray::number(session.selection.registerIndex);
+        return true;
+    };
+    QCOMPARE(runBatch(commandLine, errors, draws), kExitOk);
+    QFile file(path("out.png"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("picture of 2"));
+    QVERIFY(QFile::exists(path("out.json")));
+
+    QVERIFY(QFile::remove(path("out.json")));
+    const auto fails = [](const Session&, QByteArray*, QString* error) {
+        *error = QStringLiteral("no ink");
+        return false;
+    };
+    QCOMPARE(runBatch(commandLine, errors, fails), kExitBadUse);
+    QVERIFY(messages.contains(QStringLiteral("no ink")));
+    QVERIFY(!QFile::exists(path("out.json")));
+    QCOMPARE(runBatch(commandLine, errors), kExitBadUse);
+    QVERIFY(!QFile::exists(path("out.json")));
+}
+
+void tst_CommandLine::aWrongCallWritesNothing_data()
+{
+    QTest::addColumn<QByteArray>("description");
+    QTest::addColumn<QString>("more");
+    QTest::addColumn<QString>("part");
+
+    const auto row = [](const char* name, const QByteArray& description, const char* more, const char* part) {
+        QTest::newRow(name) << description << QString::fromLatin1(more) << QString::fromLatin1(part);
+    };
+    row("a description that is no XML", "hello", "", "device.svd:1:2: ");
+    row("a description with a mistake", "<device>\n <size>big</size></device>", "", "device.svd:2:2: ");
+    row("an unknown path to set", testDevice(), "--set P.X=1", "unknown path \"P.X\"");
+    row("an unknown path to select", testDevice(), "--select P.R.X", "unknown path \"P.R.X\"");
+    row("a group to select", testDevice(), "--select P.C[0]", "is a cluster");
+    row("a read-only target", testDevice(), "--set P.R=1 --set P.ID=1", "read-only");
+    row("a number that does not fit", testDevice(), "--set P.R=65536", "does not fit");
+}
+
+void tst_CommandLine::aWrongCallWritesNothing()
+{
+    QFETCH(QByteArray, description);
+    QFETCH(QString, more);
+    QFETCH(QString, part);
+    QFile file(path("device.svd"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(description);
+    file.close();
+    QFile old(path("out.json"));
+    QVERIFY(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+
+    QString messages;
+    QTextStream errors(&messages);
+    const CommandLine commandLine = batch(more.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    QCOMPARE(int(commandLine.action), int(CommandLine::Action::Run));
+    QCOMPARE(runBatch(commandLine, errors), kExitBadUse);
+    QVERIFY2(messages.startsWith(QStringLiteral("tessera-registers: ")) && messages.contains(part),
+             qPrintable(messages));
+    QVERIFY(old.open(QIODevice::ReadOnly));
+    QCOMPARE(old.readAll(), QByteArray("old"));
+    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files),
+             (QStringList{QStringLiteral("device.svd"), QStringLiteral("out.json")}));
+}
+
+QTEST_GUILESS_MAIN(tst_CommandLine)
+#include "tst_commandline.moc"
