@@ -54,7 +54,8 @@ endif()
 
 # A host application finds the package and its libraries by itself.
 string(REGEX MATCH "^[0-9]+\\.[0-9]+" version ${TESSERA_VERSION})
-configure(${CMAKE_CURRENT_LIST_DIR}/installed ${WORK_DIR}/build -DCMAKE_PREFIX_PATH=${prefix} -DWANTED_VERSION=${version})
+configure(${CMAKE_CURRENT_LIST_DIR}/installed ${WORK_DIR}/build -DCMAKE_PREFIX_PATH=${prefix}
+          -DWANTED_VERSION=${version})
 build(${WORK_DIR}/build)
 run(${WORK_DIR}/build/consumer)
 

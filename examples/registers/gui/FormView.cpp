@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "gui/FormView.h"
+
+#include "device/DeviceState.h"
+#include "gui/FieldTable.h"
+#include "gui/GroupPage.h"
+#include "gui/RegisterForm.h"
+#include "gui/ValueEditor.h"
+
+#include <QLayout>
+#include <QScrollBar>
+
+namespace registers {
+
+FormView::FormView(QWidget* parent)
+    : QScrollArea(parent)
+{
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void FormView::showNode(DeviceState& state, int node)
+{
+    m_form = nullptr;
+    const Node& shown = state.device().node(node);
+    if (shown.kind == NodeKind::Register) {
+        m_form = new RegisterForm(state, shown.registerIndex, m_fieldBase);
+        connect(m_form, &RegisterForm::fieldBasePicked, this, &FormView::setFieldBase);
+        setWidget(m_form);
+    } else {
+        setWidget(new GroupPage(state, node));
+    }
+    verticalScrollBar()->setValue(0);
+}
+
+void FormView::showField(int fieldIndex)
+{
+    FieldTable* fields = m_form ? m_form->fields() : nullptr;
+    if (!fields) {
+        return;
+    }
+    fields->setMarkedRow(fieldIndex);
+    m_form->ensurePolished();
+    m_form->layout()->activate();
+    if (ValueEditor* editor = fields->editor(fieldIndex)) {
+        editor->setFocus(Qt::OtherFocusReason);
+        ensureWidgetVisible(editor);
+    }
+}
+
+void FormView::clear()
+{
+    m_form = nullptr;
+    setWidget(new QWidget);
+}
+
+void FormView::setFieldBase(NumberBase base)
+{
+    if (base == m_fieldBase) {
+        return;
+    }
+    m_fieldBase = base;
+    if (m_form) {
+        m_form->setFieldBase(base);
+    }
+    Q_EMIT fieldBaseChanged(base);
+}
+
+} // namespace registers

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "gui/NumberText.h"
+
+#include <QScrollArea>
+
+namespace registers {
+
+class DeviceState;
+class RegisterForm;
+
+/// Shows the form of one register, or the page of one peripheral or cluster, and scrolls it.
+class FormView : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit FormView(QWidget* parent = nullptr);
+
+    /// Shows a node of @p state, which must live as long as it is shown.
+    void showNode(DeviceState& state, int node);
+    /// Marks a field of the shown register, scrolls to it and gives it the focus.
+    void showField(int fieldIndex);
+    /// Shows nothing.
+    void clear();
+
+    /// The form that is shown, or null.
+    RegisterForm* form() const { return m_form; }
+
+    NumberBase fieldBase() const { return m_fieldBase; }
+    void setFieldBase(NumberBase base);
+
+Q_SIGNALS:
+    void fieldBaseChanged(NumberBase base);
+
+private:
+    RegisterForm* m_form = nullptr;
+    NumberBase m_fieldBase = NumberBase::Hexadecimal;
+};
+
+} // namespace registers

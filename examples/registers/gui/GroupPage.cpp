@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "gui/GroupPage.h"
+
+#include "device/DeviceExport.h"
+#include "device/DeviceState.h"
+#include "gui/FactsLine.h"
+#include "gui/Heading.h"
+
+#include <QVBoxLayout>
+
+namespace registers {
+
+namespace {
+
+constexpr int kFormMargin = 16;
+constexpr int kAddressDigits = 8;
+
+} // namespace
+
+GroupPage::GroupPage(const DeviceState& state, int node, QWidget* parent)
+    : QWidget(parent)
+{
+    const Node& shown = state.device().node(node);
+    auto* heading = new Heading({state.device().nodePath(node), shown.name, shown.description, {}}, this);
+    heading->facts()->addFact(tr("Address"), hexNumber(shown.address, kAddressDigits), FactsLine::Kind::Number);
+    heading->facts()->addFact(tr("Kind"), shown.kind == NodeKind::Cluster ? tr("cluster") : tr("peripheral"),
+                              FactsLine::Kind::Text);
+    heading->facts()->addFact(tr("Registers"), QString::number(shown.registerCount), FactsLine::Kind::Text);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kFormMargin, kFormMargin, kFormMargin, kFormMargin);
+    layout->addWidget(heading);
+    layout->addStretch();
+}
+
+} // namespace registers

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+namespace registers {
+
+class DeviceState;
+
+/// What there is to say about a peripheral or cluster, and its registers to go to.
+class GroupPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    GroupPage(const DeviceState& state, int node, QWidget* parent = nullptr);
+};
+
+} // namespace registers

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QIcon>
+
+namespace registers {
+
+/// The application's icons: strokes in the palette's text colour, drawn anew for every size.
+enum class LineIcon { Open, Export, Reset, ResetAll, Search };
+
+QIcon lineIcon(LineIcon icon);
+
+/// The application's own icon.
+QIcon applicationIcon();
+
+} // namespace registers

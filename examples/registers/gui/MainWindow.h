@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CommandLine.h"
+
+#include <QMainWindow>
+
+QT_BEGIN_NAMESPACE
+class QAction;
+class QActionGroup;
+class QLabel;
+class QSplitter;
+QT_END_NAMESPACE
+
+namespace registers {
+
+class DeviceLoader;
+class DevicePanel;
+class FormView;
+class LoadBar;
+
+/// The register editor: the tree of a device at the left, the form of the chosen register at the right.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Shows @p session in place of what is open. Its values count as not edited yet.
+    void setSession(Session session);
+    const Session& session() const { return m_session; }
+
+    /// Reads @p fileName and shows its device. When that fails, the user is told why and what is open stays.
+    bool openFile(const QString& fileName);
+
+    /// Takes size and place from the settings, and keeps them there when the window is closed.
+    void restoreLayout();
+
+    DevicePanel* devicePanel() const { return m_panel; }
+    FormView* formView() const { return m_view; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void initActions();
+    void initMenus();
+    void initToolBar();
+    void initStatusBar();
+    void initConnect();
+    QAction* addAction(QAction*& action, const QString& text, const QKeySequence& shortcut, const char* objectName);
+
+    void openWithDialog();
+    void openSample();
+    bool exportWithDialog();
+    bool confirmLosingEdits();
+    void select(const PathTarget& target);
+    void showNode(int node);
+    void resetRegister();
+    void resetAll();
+    void markEdited();
+    void updateState();
+    void updateTitle();
+    void startLoading(const QString& fileName);
+    void finishLoading();
+    void saveLayout();
+
+    Session m_session;
+    QString m_fileName;
+    DevicePanel* m_panel;
+    FormView* m_view;
+    QSplitter* m_splitter;
+    DeviceLoader* m_loader;
+    LoadBar* m_loadBar;
+    QLabel* m_changedLabel;
+    QAction* m_open = nullptr;
+    QAction* m_openSample = nullptr;
+    QAction* m_export = nullptr;
+    QAction* m_quit = nullptr;
+    QAction* m_find = nullptr;
+    QAction* m_resetRegister = nullptr;
+    QAction* m_resetAll = nullptr;
+    QActionGroup* m_fieldBases;
+    bool m_keepsLayout = false;
+    bool m_splitterIsPlaced = false; ///< by the user; until then it suits the device
+    bool m_closesAfterLoading = false;
+};
+
+} // namespace registers

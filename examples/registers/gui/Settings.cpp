@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "gui/Settings.h"
+
+#include <CCommon.h>
+
+#include <QSettings>
+
+namespace registers {
+
+namespace {
+
+QString geometryKey()
+{
+    return QStringLiteral("Window/Geometry");
+}
+
+QString splitterKey()
+{
+    return QStringLiteral("Window/Splitter");
+}
+
+QString fieldBaseKey()
+{
+    return QStringLiteral("Window/FieldBase");
+}
+
+} // namespace
+
+Settings::Settings()
+    : m_store(CCommon::instance().getSettings(QString()))
+{
+}
+
+QByteArray Settings::windowGeometry() const
+{
+    return m_store->value(geometryKey()).toByteArray();
+}
+
+void Settings::setWindowGeometry(const QByteArray& geometry)
+{
+    m_store->setValue(geometryKey(), geometry);
+}
+
+QByteArray Settings::splitterState() const
+{
+    return m_store->value(splitterKey()).toByteArray();
+}
+
+void Settings::setSplitterState(const QByteArray& state)
+{
+    m_store->setValue(splitterKey(), state);
+}
+
+NumberBase Settings::fieldBase() const
+{
+    switch (m_store->value(fieldBaseKey()).toInt()) {
+    case static_cast<int>(NumberBase::Binary):
+        return NumberBase::Binary;
+    case static_cast<int>(NumberBase::Decimal):
+        return NumberBase::Decimal;
+    default:
+        return NumberBase::Hexadecimal;
+    }
+}
+
+void Settings::setFieldBase(NumberBase base)
+{
+    m_store->setValue(fieldBaseKey(), static_cast<int>(base));
+}
+
+} // namespace registers

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "gui/NumberText.h"
+
+#include <QByteArray>
+#include <QSharedPointer>
+
+QT_BEGIN_NAMESPACE
+class QSettings;
+QT_END_NAMESPACE
+
+namespace registers {
+
+/// What the window keeps from one run to the next.
+class Settings
+{
+public:
+    Settings();
+
+    QByteArray windowGeometry() const;
+    void setWindowGeometry(const QByteArray& geometry);
+
+    QByteArray splitterState() const;
+    void setSplitterState(const QByteArray& state);
+
+    /// Hexadecimal when nothing, or nothing useful, is stored.
+    NumberBase fieldBase() const;
+    void setFieldBase(NumberBase base);
+
+private:
+    QSharedPointer<QSettings> m_store;
+};
+
+} // namespace registers
