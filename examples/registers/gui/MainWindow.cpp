@@ -43,8 +43,8 @@ QFileDialog::Options dialogOptions()
 
 void showError(QWidget* parent, const QString& title, const QString& text)
 {
-    QMessageBox box(QMessageBox::Critical, title, title, QMessageBox::Ok, parent);
-    box.setInformativeText(text.toHtmlEscaped());
+    QMessageBox box(QMessageBox::Critical, title, title + QLatin1String("\n\n") + text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.exec();
 }
