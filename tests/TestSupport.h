@@ -46,7 +46,7 @@ inline QString levelName(QtMsgType level)
 
 /*!
     Takes every message from its construction to its destruction, from any thread, instead of the handler that
-   was installed before; recorders may be nested. The messages of Qt's offscreen platform are left out.
+    was installed before; recorders may be nested. The messages of Qt's offscreen platform are left out.
 */
 class MessageRecorder
 {
@@ -111,8 +111,8 @@ private:
 
 /*!
     An empty settings store of its own for as long as it lives: a temporary folder for all of QSettings'
-   files, the INI format, and names for the organization and the application. Everything is put back at the
-   end.
+    files, the INI format, and names for the organization and the application. Everything is put back at the
+    end.
 */
 class SettingsGuard
 {

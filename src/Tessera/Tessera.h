@@ -112,7 +112,8 @@ public:
         | 268  | display integer base                     | 10                     |
 
         They are applied in this order. A type code that is not one of the eight makes a CI32SpinBox, a bound that
-        does not convert is 0, and other roles are ignored. The box's tool tip is its shown text and follows it.
+        does not convert is 0, and other roles are ignored. The box's tool tip is its shown text and follows its
+        refreshes, not what is being typed.
     */
     static QWidget* ISP_create(QWidget* parent, const QHash<int, QVariant>& settings);
 
@@ -136,7 +137,7 @@ public:
         Replaces the application's style sheet: the rule of the application font first, then the wanted sheets.
 
         \a names are file names of the resource folder ":/qss", with or without the suffix ".qss". The sheets follow
-        one another as the folder lists them, whatever the order of \a names, and are read as UTF-8. Up to four
+        one another as QDir lists the folder, by file name, whatever the order of \a names, and are read as UTF-8. Up to four
         messages tell, each with the names: wanted sheets that are missing and sheets that cannot be read (warnings),
         sheets that nobody asked for and sheets that were taken (information). With none of them the font rule is
         still applied.
@@ -152,7 +153,7 @@ public:
     //! Registers the host's fonts, every ":/ttf/*.ttf", and logs their list as a debug message.
     static void initFont();
 
-    //! The font last put into effect by loadStyleSheet(); the defaults of tagAppFont before that.
+    //! The font last put into effect by loadStyleSheet(), in this run or an earlier one; else the defaults.
     QFont getCurrentAppFont() const;
 
     //! @}
@@ -180,8 +181,9 @@ public:
 
         With a \a toolTip that is not null (it may be empty) that text is set on a widget or an action. With a null
         one the tool tip is the object's own text, for line edits, combo boxes (and their items), labels, buttons,
-        actions and every spin box; for line edits, combo boxes and spin boxes it then follows every change of the
-        text, for as long as the object lives. A tool tip given as text does not end that: the next change replaces
+        actions and every spin box; for line edits and combo boxes it then follows every change of the text, for
+        Qt's spin boxes every change of the value and for the integer boxes every refresh (not what is being typed),
+        for as long as the object lives. A tool tip given as text does not end that: the next change replaces
         it.
     */
     bool autoSetToolTips(QObject* object, const QString& toolTip);

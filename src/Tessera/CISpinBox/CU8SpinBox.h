@@ -28,6 +28,7 @@ class SpinBoxCore;
     - The size hint does not know the range. Give the box a minimum width, or let its layout do so.
     - Like every spin box of Qt it steps on a mouse wheel without having the focus.
     - setSpecialValueText() refreshes nothing: the text shows with the next change.
+    - A prefix that is typed over comes back, but the cursor does not move behind it.
 */
 class TESSERA_EXPORT CU8SpinBox : public QAbstractSpinBox
 {
@@ -85,6 +86,8 @@ public:
         A number within the range is Acceptable; one below the minimum is Intermediate, so that it can be typed
         towards the range; all else is Invalid, a text that begins with "-" always. An empty text and a "+" are
         Intermediate, unless the range is one value.
+        In a range of one value every other number is Invalid.
+
         The answer for the last text is kept, and returned again for the same text even if the range or the base has
         changed since.
     */
@@ -98,7 +101,8 @@ public:
 
         The sum is cut to the type's own 8 bits before it is brought into the range: a step beyond the type's limit
         comes in from the other side. With wrapping() the value wraps within the range; over a range as wide as the
-        type it wraps in the type.
+        type it wraps in the type. The remainder is taken in the type's own arithmetic: in 32 and 64 bits, a signed
+        range wider than half the type and a step below an unsigned range do not simply count round.
     */
     void stepBy(int nSteps) override;
 
@@ -112,7 +116,8 @@ Q_SIGNALS:
     //! The value has changed, by whatever means. Sent after textChanged().
     void valueChanged(const unsigned char& nVal);
 
-    //! The shown text was refreshed. Sent while the signals of the line edit are blocked; not sent for typed text.
+    //! The shown text was refreshed. Sent while the signals of the line edit are blocked; for typed text only where
+    //! the number is written otherwise than it was typed.
     void textChanged(const QString& sText);
 
 public Q_SLOTS:

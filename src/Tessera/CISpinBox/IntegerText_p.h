@@ -78,9 +78,8 @@ inline int digit(QChar c)
 }
 
 /*!
-    Reads a text of nothing but digits: what is typed nearly always is, and Qt's general parser takes several
-   times as long. False, which says nothing about the text, for signs, prefixes and numbers near the limit of
-   64 bits.
+    Reads a text of nothing but digits: what is typed nearly always is, and Qt's general parser takes several times
+    as long. False, which says nothing about the text, for signs, prefixes and numbers near the limit of 64 bits.
 */
 inline bool plainDigits(const QStringRef& sText, int nBase, qulonglong* pVal)
 {

@@ -16,8 +16,8 @@
 namespace nsUI {
 
 /*!
-    What the eight integer spin boxes have in common, once. Each box befriends this class and hands its work
-   over with itself as the first argument; value types are those of the box's own members.
+    What the eight integer spin boxes have in common, once. Each box befriends this class and hands its work over
+    with itself as the first argument; value types are those of the box's own members.
 
     Every change of the value goes the same way: store, refresh the line edit, emit valueChanged().
 */

@@ -48,7 +48,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    //! Acceptable when all of \a input is a number within the range, else Invalid. \a input is not changed.
+    //! Acceptable when all of \a input is a number within the range, else Invalid ("nan" lies outside no range).
+    //! \a input is not changed.
     QValidator::State validate(QString& input, int& pos) const override;
 
     /*!
