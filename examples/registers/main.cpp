@@ -39,6 +39,15 @@ std::optional<int> runWithoutWindow(const CommandLine& commandLine)
     return std::nullopt;
 }
 
+/// A batch run has one thing to say, if anything: what went wrong. Progress messages of the library and notes of
+/// the platform are not part of it.
+void reportFailuresOnly(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        QTextStream(stderr) << text << '\n';
+    }
+}
+
 bool hasDesktop()
 {
     return QGuiApplication::platformName() != QLatin1String("offscreen");
@@ -88,7 +97,11 @@ int main(int argc, char* argv[])
             return *exitCode;
         }
     }
-    if (!platformChosen && !hasDisplay()) {
+    if (commandLine.wantsBatch()) {
+        qInstallMessageHandler(reportFailuresOnly);
+    }
+    // A batch run opens no window, so a display that cannot be reached must not stop it.
+    if (!platformChosen && (commandLine.wantsBatch() || !hasDisplay())) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);

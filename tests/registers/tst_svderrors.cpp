@@ -103,10 +103,8 @@ void tst_SvdErrors::anErrorSaysWhereAndWhat_data()
     row("a number of more than 64 bits", inRegister("<resetValue>0x10000000000000000</resetValue>"), 5, 1,
         {"<resetValue>", "64 bits"});
     row("no number at all", inRegister("<size></size>"), 5, 1, {"<size>", "\"\""});
-    row("an unknown access", inRegister("<access>rw</access>"), 5, 1,
-        {"<access>", "\"rw\"", "read-only", "write-only", "read-write", "writeOnce", "read-writeOnce"});
-    row("an unknown read action", inRegister("<readAction>burn</readAction>"), 5, 1,
-        {"<readAction>", "\"burn\"", "clear, set, modify or modifyExternal"});
+    row("an unknown access", inRegister("<access>maybe</access>"), 5, 1,
+        {"<access>", "\"maybe\"", "read-only", "write-only", "read-write", "writeOnce", "read-writeOnce"});
     row("a register of no bits", inRegister("<size>0</size>"), 5, 1, {"\"P.R\"", "0 bits", "1 to 64"});
     row("a register of 65 bits", inRegister("<size>65</size>"), 5, 1, {"\"P.R\"", "65 bits", "1 to 64"});
     row("a size that is wrong where it is inherited from",
@@ -122,8 +120,6 @@ void tst_SvdErrors::anErrorSaysWhereAndWhat_data()
     row("an msb below the lsb", inField("<lsb>5</lsb><msb>4</msb>"), 5, 9, {"\"F\"", "msb not below the lsb"});
     row("a range with the msb below the lsb", inField("<bitRange>[4:5]</bitRange>"), 6, 2,
         {"\"[4:5]\"", "msb not below lsb"});
-    row("a range without brackets", inField("<bitRange>5:4</bitRange>"), 6, 2, {"\"5:4\"", "[msb:lsb]"});
-    row("a range without colon", inField("<bitRange>[5]</bitRange>"), 6, 2, {"\"[5]\"", "[msb:lsb]"});
     row("a range with words", inField("<bitRange>[a:b]</bitRange>"), 6, 2, {"\"[a:b]\"", "[msb:lsb]"});
     row("a range of 65 bits", inField("<bitRange>[64:0]</bitRange>"), 6, 2, {"\"[64:0]\"", "at most 64 bits"});
     row("a range that begins at bit 64", inField("<bitRange>[64:64]</bitRange>"), 6, 2, {"lsb below 64"});
@@ -145,9 +141,6 @@ void tst_SvdErrors::anErrorSaysWhereAndWhat_data()
     row("a bad default mark",
         inField(begin + "<enumeratedValue><isDefault>maybe</isDefault></enumeratedValue></enumeratedValues>"), 7, 18,
         {"<isDefault>", "\"maybe\"", "true, false, 1 or 0"});
-    row("neither a value nor a default mark",
-        inField(begin + "<enumeratedValue><name>A</name></enumeratedValue></enumeratedValues>"), 7, 1,
-        {"<enumeratedValue>", "<value> or <isDefault>"});
 
     // Arrays.
     row("dim 0", inRegister("<dim>0</dim>"), 5, 1, {"\"R\"", "<dim> is 0", "at least 1"});
@@ -156,8 +149,6 @@ void tst_SvdErrors::anErrorSaysWhereAndWhat_data()
     row("no dim", inRegister("<dimIncrement>4</dimIncrement>"), 5, 1, {"\"R\"", "<dim>"});
     row("too few indices", inRegister("<dim>3</dim><dimIncrement>4</dimIncrement>\n<dimIndex>A,B</dimIndex>"), 6, 1,
         {"\"A,B\"", "names 2", "3"});
-    row("too many indices", inRegister("<dim>3</dim><dimIncrement>4</dimIncrement>\n<dimIndex>0-3</dimIndex>"), 6, 1,
-        {"\"0-3\"", "names 4", "3"});
     row("a range of indices that runs backwards",
         inRegister("<dim>4</dim><dimIncrement>4</dimIncrement>\n<dimIndex>3-0</dimIndex>"), 6, 1, {"\"3-0\"", "0-3"});
     row("a range of indices with an open end",

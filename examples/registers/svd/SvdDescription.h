@@ -84,9 +84,10 @@ struct RawField
     QString derivedFrom;
     SvdPosition position;
     RawBits bits;
-    qint32 reg = -1;       ///< the register it stands in, a node
-    qint32 dim = -1;       ///< into SvdDescription::dims
-    RawRange enumerations; ///< into SvdDescription::enumerations
+    qint32 reg = -1;                ///< the register it stands in, a node
+    qint32 dim = -1;                ///< into SvdDescription::dims
+    RawRange enumerations;          ///< into SvdDescription::enumerations
+    RawRange inheritedEnumerations; ///< those of the field that this one derives from
     std::optional<Access> access;
     bool hasReadAction = false;
 };

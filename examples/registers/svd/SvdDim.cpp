@@ -62,13 +62,14 @@ std::optional<SvdDimIndices> SvdDimIndices::of(const RawDim& dim, QString* probl
                        .arg(quoted(dim.index));
         return std::nullopt;
     }
-    if (indices->m_count != *dim.count) {
+    if (indices->m_count < *dim.count) {
         *problem = QStringLiteral("<dimIndex> %1 names %2, and as many as <dim> says, %3, were expected")
                        .arg(quoted(dim.index))
                        .arg(indices->m_count)
                        .arg(*dim.count);
         return std::nullopt;
     }
+    indices->m_count = *dim.count; // names beyond the count are left over
     return indices;
 }
 
@@ -121,7 +122,11 @@ std::optional<SvdDimIndices> SvdDimIndices::fromList(const QString& text)
 {
     SvdDimIndices list;
     list.m_kind = Kind::Listed;
-    for (const QString& item : text.split(QLatin1Char(','))) {
+    QStringList items = text.split(QLatin1Char(','));
+    if (items.size() > 1 && items.constLast().trimmed().isEmpty()) {
+        items.removeLast(); // a comma after the last name
+    }
+    for (const QString& item : qAsConst(items)) {
         list.m_listed.append(item.trimmed());
         if (!isListItem(list.m_listed.constLast())) {
             return std::nullopt;

@@ -281,16 +281,28 @@ void SvdExpander::expandField(const RawField& raw, Access inherited, QVector<Fie
     }
 }
 
+/// The first of the enumerations that is for @p wanted, or -1.
+qint32 SvdExpander::enumerationFor(RawUsage wanted, RawRange enumerations) const
+{
+    for (qint32 id = enumerations.first; id < enumerations.end(); ++id) {
+        if (usageOf(m_description.enumeration(id)) == wanted) {
+            return id;
+        }
+    }
+    return -1;
+}
+
 /// The values that a field is shown with: those for reading if there are any, else those for both, else those
-/// for writing.
+/// for writing. What the field has of its own comes before what its base has for the same use.
 QSharedPointer<const Enumeration> SvdExpander::enumerationOf(const RawField& raw)
 {
     qint32 chosen = -1;
-    for (const RawUsage wanted : {RawUsage::Read, RawUsage::ReadWrite, RawUsage::Write}) {
-        for (qint32 id = raw.enumerations.first; chosen < 0 && id < raw.enumerations.end(); ++id) {
-            chosen = usageOf(m_description.enumeration(id)) == wanted ? id : -1;
+    for (const RawRange enumerations : {raw.enumerations, raw.inheritedEnumerations}) {
+        for (const RawUsage wanted : {RawUsage::Read, RawUsage::ReadWrite}) {
+            chosen = chosen < 0 ? enumerationFor(wanted, enumerations) : chosen;
         }
     }
+    chosen = chosen < 0 ? enumerationFor(RawUsage::Write, raw.enumerations) : chosen;
     if (chosen < 0) {
         return {};
     }

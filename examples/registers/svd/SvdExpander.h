@@ -61,6 +61,7 @@ private:
     void expandRegister(const RawNode& node, const Place& place, Register&& reg, const RawProperties& properties);
     const QVector<Field>& fieldsOf(RawRange fields, Access inherited);
     void expandField(const RawField& raw, Access inherited, QVector<Field>* fields);
+    qint32 enumerationFor(RawUsage wanted, RawRange enumerations) const;
     QSharedPointer<const Enumeration> enumerationOf(const RawField& raw);
     QSharedPointer<const Enumeration> makeEnumeration(const RawEnumeration& raw) const;
 

@@ -165,7 +165,10 @@ bool SvdFieldResolver::mergeField(qint32 id, qint32 baseId)
         field.description = field.description.isEmpty() ? base->description : field.description;
         field.access = field.access ? field.access : base->access;
         field.hasReadAction = field.hasReadAction || base->hasReadAction;
-        field.enumerations = field.enumerations.count > 0 ? field.enumerations : base->enumerations;
+        field.inheritedEnumerations = base->enumerations.count > 0 ? base->enumerations : base->inheritedEnumerations;
+        if (field.enumerations.count == 0) {
+            field.enumerations = field.inheritedEnumerations;
+        }
         if (hasPlaceholder(field.name)) {
             field.dim = inheritedDim(&m_description, field.dim, base->dim);
         }
@@ -222,7 +225,7 @@ std::optional<qint32> SvdFieldResolver::enumerationBaseOf(qint32 id)
     if (base != kNotFound && !m_problem) {
         return base;
     }
-    if (findEnumerationBase(id, kNotFound) == id) {
+    if (findEnumerationBase(id, kNotFound) != kNotFound) {
         failCycle(enumeration.position, enumeration.derivedFrom);
     } else {
         failReference(enumeration.position, enumeration.derivedFrom, "enumeratedValues");
@@ -251,7 +254,7 @@ qint32 SvdFieldResolver::enumerationInField(qint32 field, const QString& name, q
 {
     const RawRange enumerations = m_description.field(field).enumerations;
     for (qint32 id = enumerations.first; id < enumerations.end(); ++id) {
-        if (id != except && m_description.enumeration(id).name == name) {
+        if (m_description.enumeration(id).name == name && isPossibleBase(id, except)) {
             return id;
         }
     }
@@ -279,9 +282,11 @@ qint32 SvdFieldResolver::enumerationInRegister(qint32 reg, const QString& name, 
 /// Looks through all that a node or the device holds: for the enumeration's name, and for a path from there.
 qint32 SvdFieldResolver::enumerationInScope(qint32 scope, const QString& name, qint32 except)
 {
-    const qint32 found = indexOf(scope).value(name, kNotFound);
-    if (found != kNotFound && found != except) {
-        return found;
+    const QVector<qint32> named = indexOf(scope).value(name);
+    const auto found =
+        std::find_if(named.cbegin(), named.cend(), [&](qint32 id) { return isPossibleBase(id, except); });
+    if (found != named.cend()) {
+        return *found;
     }
     return enumerationAt(scope, name.split(QLatin1Char('.')), except);
 }
@@ -306,14 +311,27 @@ qint32 SvdFieldResolver::firstEnumerationOf(qint32 field, qint32 except) const
 {
     const RawRange enumerations = m_description.field(field).enumerations;
     for (qint32 id = enumerations.first; id < enumerations.end(); ++id) {
-        if (id != except) {
+        if (isPossibleBase(id, except)) {
             return id;
         }
     }
     return kNotFound;
 }
 
-/// The enumerations below a node by their names, of each name the first. Made when it is first needed, since
+/// False for @p asker itself, for what is being derived at the moment, and for what asks for the same base under the
+/// same name: several fields may each have a copy that keeps the name. Without an asker everything is possible.
+bool SvdFieldResolver::isPossibleBase(qint32 id, qint32 asker) const
+{
+    if (asker == kNotFound) {
+        return true;
+    }
+    const RawEnumeration& candidate = m_description.enumeration(id);
+    const RawEnumeration& asking = m_description.enumeration(asker);
+    const bool isAlike = candidate.name == asking.name && candidate.derivedFrom == asking.derivedFrom;
+    return id != asker && !isAlike && m_enumerationStates[size_t(id)] != SvdDerivationState::Busy;
+}
+
+/// The enumerations below a node by their names, in the description's order. Made when it is first needed, since
 /// few descriptions look so far.
 const SvdFieldResolver::EnumerationIndex& SvdFieldResolver::indexOf(qint32 scope)
 {
@@ -341,8 +359,8 @@ void SvdFieldResolver::addToIndex(qint32 nodeId, EnumerationIndex* index, QSet<q
         const RawRange enumerations = m_description.field(m_description.fieldId(i)).enumerations;
         for (qint32 id = enumerations.first; id < enumerations.end(); ++id) {
             const QString& name = m_description.enumeration(id).name;
-            if (!name.isEmpty() && !index->contains(name)) {
-                index->insert(name, id);
+            if (!name.isEmpty()) {
+                (*index)[name].append(id);
             }
         }
     }

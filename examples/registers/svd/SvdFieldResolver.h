@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QSet>
 #include <QStringList>
+#include <QVector>
 
 #include <optional>
 #include <unordered_map>
@@ -26,7 +27,7 @@ public:
     const std::optional<SvdProblem>& problem() const { return m_problem; }
 
 private:
-    using EnumerationIndex = QHash<QString, qint32>;
+    using EnumerationIndex = QHash<QString, QVector<qint32>>;
 
     // Fields.
     bool resolveField(qint32 id);
@@ -47,6 +48,7 @@ private:
     qint32 enumerationInScope(qint32 scope, const QString& name, qint32 except);
     qint32 enumerationAt(qint32 scope, const QStringList& path, qint32 except);
     qint32 firstEnumerationOf(qint32 field, qint32 except) const;
+    bool isPossibleBase(qint32 id, qint32 asker) const;
     const EnumerationIndex& indexOf(qint32 scope);
     void addToIndex(qint32 node, EnumerationIndex* index, QSet<qint32>* visited) const;
     bool mergeEnumeration(qint32 id, qint32 baseId);

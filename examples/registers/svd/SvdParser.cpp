@@ -24,12 +24,12 @@ const QString& numberExpected()
     return text;
 }
 
-/// Compares keywords without regard to case, hyphens and white space, which vendors mix up. @p folded has lower
+/// Compares keywords without regard to case and to what stands between the words, which vendors mix up. @p folded has lower
 /// case letters only.
 bool isKeyword(QStringView text, const char* folded)
 {
     for (const QChar c : text) {
-        if (c == QLatin1Char('-') || c.isSpace()) {
+        if (c == QLatin1Char('-') || c == QLatin1Char('_') || c == QLatin1Char('/') || c.isSpace()) {
             continue;
         }
         if (*folded == '\0' || (c != QLatin1Char(*folded) && c.toLower() != QLatin1Char(*folded))) {
@@ -46,10 +46,18 @@ struct AccessKeyword
     Access access;
 };
 
-// The most frequent one first.
+// The most frequent one first, and after the schema's own the short forms that are met.
 constexpr AccessKeyword kAccessKeywords[] = {
-    {"readwrite", Access::ReadWrite}, {"readonly", Access::ReadOnly},           {"writeonly", Access::WriteOnly},
-    {"writeonce", Access::WriteOnce}, {"readwriteonce", Access::ReadWriteOnce},
+    {"readwrite", Access::ReadWrite},
+    {"readonly", Access::ReadOnly},
+    {"writeonly", Access::WriteOnly},
+    {"writeonce", Access::WriteOnce},
+    {"readwriteonce", Access::ReadWriteOnce},
+    {"rw", Access::ReadWrite},
+    {"ro", Access::ReadOnly},
+    {"wo", Access::WriteOnly},
+    {"read", Access::ReadOnly},
+    {"write", Access::WriteOnly},
 };
 
 const char* elementName(NodeKind kind)
@@ -285,9 +293,14 @@ std::optional<quint64> SvdParser::readNumber()
     return number;
 }
 
+// An element that only keywords can fill and that is empty says nothing, as if it were not there.
+
 std::optional<Access> SvdParser::readAccess()
 {
     const QStringView text = readText();
+    if (text.trimmed().isEmpty()) {
+        return std::nullopt;
+    }
     for (const AccessKeyword& keyword : kAccessKeywords) {
         if (isKeyword(text, keyword.folded)) {
             return keyword.access;
@@ -309,29 +322,28 @@ std::optional<RawUsage> SvdParser::readUsage()
     if (isKeyword(text, "readwrite")) {
         return RawUsage::ReadWrite;
     }
-    failOnText(QStringLiteral("read, write or read-write"));
+    if (!text.trimmed().isEmpty()) {
+        failOnText(QStringLiteral("read, write or read-write"));
+    }
     return std::nullopt;
 }
 
 bool SvdParser::readBool()
 {
-    const std::optional<bool> value = parseSvdBool(readText());
-    if (!value) {
+    const QStringView text = readText();
+    const std::optional<bool> value = parseSvdBool(text);
+    if (!value && !text.trimmed().isEmpty()) {
         failOnText(QStringLiteral("true, false, 1 or 0"));
     }
     return value.value_or(false);
 }
 
-/// Every kind of read action counts alike: reading changes something.
+/// Every kind of read action counts alike, and so does a word that the schema does not know: reading changes
+/// something.
 bool SvdParser::readReadAction()
 {
     const QStringView text = readText();
-    const bool isKnown = isKeyword(text, "clear") || isKeyword(text, "set") || isKeyword(text, "modify") ||
-                         isKeyword(text, "modifyexternal");
-    if (!isKnown) {
-        failOnText(QStringLiteral("clear, set, modify or modifyExternal"));
-    }
-    return true;
+    return !text.trimmed().isEmpty() && !isKeyword(text, "none");
 }
 
 qint32 SvdParser::readBit(qint32 limit, const char* meaning)
@@ -346,18 +358,19 @@ qint32 SvdParser::readBit(qint32 limit, const char* meaning)
 
 void SvdParser::readBitRange(RawBits* bits)
 {
-    const QStringView text = readText().trimmed();
+    QStringView text = readText().trimmed();
+    if (text.startsWith(QLatin1Char('[')) && text.endsWith(QLatin1Char(']'))) {
+        text = text.mid(1, text.size() - 2);
+    }
+    // Without brackets, and as one bit without a colon, it is met as well, and means one thing only.
     const qsizetype colon = QString::fromRawData(text.data(), int(text.size())).indexOf(QLatin1Char(':'));
-    const bool isBracketed = text.startsWith(QLatin1Char('[')) && text.endsWith(QLatin1Char(']'));
-    if (isBracketed && colon > 0) {
-        const std::optional<quint64> msb = parseSvdNumber(text.mid(1, colon - 1));
-        const std::optional<quint64> lsb = parseSvdNumber(text.mid(colon + 1, text.size() - colon - 2));
-        if (msb && lsb && *lsb <= *msb && *lsb < quint64(kBitLimit) && *msb - *lsb < quint64(kBitLimit)) {
-            bits->msb = qint32(*msb);
-            bits->lsb = qint32(*lsb);
-            bits->lsbIsOffset = false;
-            return;
-        }
+    const std::optional<quint64> msb = parseSvdNumber(colon < 0 ? text : text.left(colon));
+    const std::optional<quint64> lsb = parseSvdNumber(colon < 0 ? text : text.mid(colon + 1));
+    if (msb && lsb && *lsb <= *msb && *lsb < quint64(kBitLimit) && *msb - *lsb < quint64(kBitLimit)) {
+        bits->msb = qint32(*msb);
+        bits->lsb = qint32(*lsb);
+        bits->lsbIsOffset = false;
+        return;
     }
     failOnText(QStringLiteral("[msb:lsb] with msb not below lsb, lsb below 64 and at most 64 bits"));
 }
@@ -570,7 +583,6 @@ void SvdParser::parseEnumeration(qint32 field)
 
 void SvdParser::parseEnumValue()
 {
-    const SvdPosition begin = m_position;
     EnumValue entry;
     entry.hasValue = false;
     QString valueText;
@@ -601,9 +613,9 @@ void SvdParser::parseEnumValue()
             skipElement();
         }
     }
+    // Vendors list reserved values without saying which they are: such an entry names nothing.
     if (!entry.hasValue && !entry.isDefault) {
-        fail(begin, QStringLiteral("this <enumeratedValue> has no value, and <value> or <isDefault> was "
-                                   "expected in it"));
+        return;
     }
     if (entry.name.isEmpty()) {
         entry.name = entry.hasValue ? valueText : QStringLiteral("default");
