@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <Tessera/TesseraExport.h>
+
+#include <QByteArray>
+#include <QDialog>
+#include <QMap>
+#include <QString>
+
+#include <memory>
+
+namespace nsUI {
+
+/*!
+    Edits a byte array three ways at once: as hexadecimal text, as binary text, and bit by bit in a grid where each bit
+    can have a description. An edit in one shows in the other two at once. Reset returns to the array last given.
+
+    Positions count from 0 at the least significant bit of the last byte. A text counts once all its digits are there;
+    until then nothing follows it.
+
+    The two texts make sense up to some hundred bytes: every one of their digits is a position in an input mask. The
+    grid has no such limit.
+*/
+class TESSERA_EXPORT CBitDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit CBitDialog(QWidget* parent = nullptr);
+    CBitDialog(const QByteArray& byteArray, const QMap<int, QString>& bitDescMap, QWidget* parent = nullptr);
+    ~CBitDialog() override;
+
+    /*!
+        Lets the user edit \a byteArray in a modal dialog of half the screen's size, with the descriptions of
+        \a bitDescMap by bit position. The answer is the edited array, or a null array on a cancel: test isNull(), an
+        empty array is a result. An empty \a title leaves the dialog's own.
+    */
+    static QByteArray getByteArray(const QByteArray& byteArray, const QMap<int, QString>& bitDescMap,
+                                   QWidget* parent = nullptr, const QString& title = QString());
+
+    //! The array to edit, and to return to on Reset. With an empty one both texts are disabled.
+    void setByteArray(const QByteArray& byteArray);
+    const QByteArray& byteArray() const; //!< as edited so far
+
+    void setBitDescMap(const QMap<int, QString>& bitDescMap);
+    const QMap<int, QString>& bitDescMap() const;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private Q_SLOTS:
+    void slotUpdateUI(const QByteArray& tByteArray, int nFlag);
+    void slotBtnResetClicked();
+    void slotTableModelChanged(const QByteArray& tByteArray);
+    void slotLEditHexTextChanged(const QString& sText);
+    void slotLEditBinTextChanged(const QString& sText);
+
+private:
+    struct PrivateData;
+
+    void initUI();
+    void initConnect();
+
+    std::unique_ptr<PrivateData> m_pData;
+};
+
+} // namespace nsUI
