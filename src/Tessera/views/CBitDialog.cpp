@@ -41,7 +41,7 @@ QString binMask(int nBytes)
 
 } // namespace
 
-struct CBitDialog::PrivateData
+struct Q_DECL_HIDDEN CBitDialog::PrivateData
 {
     QLineEdit* pLEditHex = nullptr;
     QLineEdit* pLEditBin = nullptr;

@@ -1,0 +1,13 @@
+# cmake -DNM=... -DLIBRARY=... -DNAMES="A;B" -P CheckHidden.cmake: no dynamic symbol of LIBRARY mentions one of NAMES.
+execute_process(COMMAND ${NM} -DC --defined-only ${LIBRARY} OUTPUT_VARIABLE symbols RESULT_VARIABLE result)
+if(result)
+    message(FATAL_ERROR "${NM} cannot read ${LIBRARY}")
+endif()
+if(NOT symbols MATCHES "nsUI::TbModel::")
+    message(FATAL_ERROR "${LIBRARY} shows no public class: this check would find nothing")
+endif()
+foreach(name IN LISTS NAMES)
+    if(symbols MATCHES "([^\n]*nsUI::${name}[^\n]*)")
+        message(FATAL_ERROR "${LIBRARY} shows what is internal: ${CMAKE_MATCH_1}")
+    endif()
+endforeach()

@@ -1,0 +1,17 @@
+# The tests of the item views and of the dialogs that they open.
+
+tessera_test(tst_ItemRoles)
+tessera_test(tst_TbModel SOURCES CellModels.h ItemModelContract.h)
+tessera_test(tst_TrModel SOURCES CellModels.h ItemModelContract.h)
+tessera_test(tst_StyledItemDelegate LIBRARIES Qt5::Svg SOURCES CellModels.h TestSupport.h data/pictures.qrc)
+set_target_properties(tst_StyledItemDelegate PROPERTIES AUTORCC ON)
+# The grid of the bit dialog is internal: its test brings its own copy, and the library must not show the other.
+tessera_test(tst_CBitModel SOURCES CellModels.h
+    ${PROJECT_SOURCE_DIR}/src/Tessera/views/CBitModel.cpp ${PROJECT_SOURCE_DIR}/src/Tessera/views/CBitModel.h)
+add_test(NAME CBitModelIsHidden COMMAND ${CMAKE_COMMAND}
+    -DNM=${CMAKE_NM} -DLIBRARY=$<TARGET_FILE:Tessera> -DNAMES=CBitModel
+    -P ${CMAKE_CURRENT_SOURCE_DIR}/CheckHidden.cmake)
+tessera_test(tst_CBitDialog SOURCES ModalDriver.h)
+tessera_test(tst_CPenDialog SOURCES ModalDriver.h)
+tessera_test(tst_TbView SOURCES CellModels.h ItemViewContract.h ModalDriver.h)
+tessera_test(tst_TrView SOURCES CellModels.h ItemViewContract.h ModalDriver.h)
