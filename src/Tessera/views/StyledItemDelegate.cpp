@@ -7,6 +7,8 @@
 #include <Tessera/widgets/CDSpinBox.h>
 
 #include <QAbstractItemModel>
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPersistentModelIndex>
@@ -67,6 +69,14 @@ QWidget* createIntegerBox(QWidget* parent, const QModelIndex& index)
         settings.insert(nRole, index.data(nRole));
     }
     return TesseraGlobal::ISP_create(parent, settings);
+}
+
+//! A view places the editor, and so opens the list, before it loads the value: what the list stands on follows.
+void moveOpenList(const QComboBox* pComboBox)
+{
+    const QWidget* const pPopup = QApplication::activePopupWidget();
+    if (pPopup != nullptr && pPopup->parentWidget() == pComboBox && pComboBox->currentIndex() >= 0)
+        pComboBox->view()->setCurrentIndex(pComboBox->model()->index(pComboBox->currentIndex(), 0));
 }
 
 bool isWithin(const QModelIndex& index, const QModelIndex& topLeft, const QModelIndex& bottomRight)
@@ -151,7 +161,7 @@ void paintPicture(QPainter* painter, const QRect& rect, const QModelIndex& index
     if (nPicture >= paths.size())
         return;
     QSvgRenderer renderer(paths.at(nPicture));
-    if (renderer.isValid() && !renderer.viewBoxF().isEmpty())
+    if (!rect.isEmpty() && renderer.isValid() && !renderer.viewBoxF().isEmpty())
         renderer.render(painter, fitted(renderer.viewBoxF().size(), rect));
 }
 
@@ -203,12 +213,18 @@ void StyledItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index
 {
     switch (kindOf(index)) {
     case e_Item_ComboBox:
-        if (auto* const pComboBox = qobject_cast<QComboBox*>(editor))
-            return pComboBox->setCurrentIndex(index.data(Qt::EditRole).toInt());
+        if (auto* const pComboBox = qobject_cast<QComboBox*>(editor)) {
+            pComboBox->setCurrentIndex(index.data(Qt::EditRole).toInt());
+            moveOpenList(pComboBox);
+            return;
+        }
         break;
     case e_Item_DataComboBox:
-        if (auto* const pComboBox = qobject_cast<CDataComboBox*>(editor))
-            return pComboBox->setCurrentData(index.data(Qt::EditRole), Qt::UserRole);
+        if (auto* const pComboBox = qobject_cast<CDataComboBox*>(editor)) {
+            pComboBox->setCurrentData(index.data(Qt::EditRole), Qt::UserRole);
+            moveOpenList(pComboBox);
+            return;
+        }
         break;
     case e_Item_ISpinBox:
         if (TesseraGlobal::ISP_setData(editor, spinBoxType(index), index.data(Qt::EditRole), true))

@@ -65,7 +65,9 @@ QPen CPenDialog::currentPen() const
 QPen CPenDialog::selectedPen() const
 {
     QPen pen = m_tCurrentPen;
-    pen.setColor(getBtnColor());
+    QBrush brush = pen.brush(); // QPen::setColor() would make it solid
+    brush.setColor(getBtnColor());
+    pen.setBrush(brush);
     pen.setWidthF(m_pDSpxWidth->value());
     pen.setStyle(static_cast<Qt::PenStyle>(m_pCbxStyle->currentData(Qt::UserRole).toInt()));
     return pen;
