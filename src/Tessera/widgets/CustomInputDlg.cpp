@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "CustomInputDlg.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QVBoxLayout>
+
+namespace nsUI {
+
+CustomInputDlg::CustomInputDlg(QWidget* parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags)
+{
+    if (!flags.testFlag(Qt::WindowContextHelpButtonHint))
+        setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    initUI();
+}
+
+void CustomInputDlg::addRow(const QString& label, QWidget* field)
+{
+    m_pFormLayout->addRow(label, field);
+}
+
+QDialogButtonBox* CustomInputDlg::buttonBox() const
+{
+    return m_pBtnBox;
+}
+
+void CustomInputDlg::initUI()
+{
+    auto* const pLayout = new QVBoxLayout(this);
+    m_pFormLayout = new QFormLayout;
+    pLayout->addLayout(m_pFormLayout, 1);
+    pLayout->addStretch(0);
+    m_pBtnBox = new QDialogButtonBox(this);
+    pLayout->addWidget(m_pBtnBox);
+}
+
+} // namespace nsUI
