@@ -20,7 +20,7 @@ quint64 DeviceState::fieldValue(int registerIndex, int fieldIndex) const
     return registers::fieldValue(m_device->registerAt(registerIndex).fields.at(fieldIndex), value(registerIndex));
 }
 
-bool DeviceState::setValue(int registerIndex, quint64 value)
+bool DeviceState::store(int registerIndex, quint64 value)
 {
     const quint64 masked = value & m_device->registerAt(registerIndex).valueMask();
     if (masked == m_values.at(registerIndex)) {
@@ -29,8 +29,28 @@ bool DeviceState::setValue(int registerIndex, quint64 value)
     m_modifiedCount -= isModified(registerIndex) ? 1 : 0;
     m_values[registerIndex] = masked;
     m_modifiedCount += isModified(registerIndex) ? 1 : 0;
+    return true;
+}
+
+bool DeviceState::setValue(int registerIndex, quint64 value)
+{
+    if (!store(registerIndex, value)) {
+        return false;
+    }
     Q_EMIT registerChanged(registerIndex);
     return true;
+}
+
+bool DeviceState::setValues(const QVector<RegisterValue>& values)
+{
+    bool isChanged = false;
+    for (const RegisterValue& one : values) {
+        isChanged |= store(one.registerIndex, one.value);
+    }
+    if (isChanged) {
+        Q_EMIT allChanged();
+    }
+    return isChanged;
 }
 
 bool DeviceState::setField(int registerIndex, int fieldIndex, quint64 value)

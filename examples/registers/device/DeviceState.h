@@ -8,6 +8,13 @@
 
 namespace registers {
 
+/// A value for one register.
+struct RegisterValue
+{
+    int registerIndex = -1;
+    quint64 value = 0;
+};
+
 /// The edited values of one device. Every register starts at its reset value.
 class DeviceState : public QObject
 {
@@ -24,6 +31,9 @@ public:
 
     /// Sets a register; bits beyond its size are dropped. Returns whether the value changed.
     bool setValue(int registerIndex, quint64 value);
+    /// Sets many registers at once, as setValue() does; of several values for one register the last counts. Returns
+    /// whether any value changed; allChanged() tells of it.
+    bool setValues(const QVector<RegisterValue>& values);
     /// Sets the bits of one field; bits beyond its width, or beyond the register, are dropped.
     bool setField(int registerIndex, int fieldIndex, quint64 value);
 
@@ -43,6 +53,8 @@ Q_SIGNALS:
     void allChanged();
 
 private:
+    bool store(int registerIndex, quint64 value);
+
     DevicePtr m_device;
     QVector<quint64> m_values;
     int m_modifiedCount = 0;
