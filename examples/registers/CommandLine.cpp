@@ -2,6 +2,7 @@
 #include "CommandLine.h"
 
 #include "device/DeviceExport.h"
+#include "device/DeviceImport.h"
 #include "svd/SvdNumber.h"
 
 #include <QCommandLineOption>
@@ -20,6 +21,8 @@ static void initializeResources()
 namespace registers {
 
 namespace {
+
+constexpr int kMostUnplacedNamed = 20;
 
 /// A --set that is known to be possible.
 struct Setting
@@ -97,8 +100,22 @@ std::optional<Setting> checkSet(const Device& device, const SetRequest& request,
     return Setting{target, *value};
 }
 
+QString couldNotLoad(const QString& fileName, const QVector<Unplaced>& unplaced)
+{
+    QString text =
+        QStringLiteral("%1: %2 of its registers cannot be loaded:\n").arg(fileName, QString::number(unplaced.size())) +
+        unplacedText(unplaced.mid(0, kMostUnplacedNamed));
+    if (unplaced.size() > kMostUnplacedNamed) {
+        text += QStringLiteral("\nand %1 more").arg(unplaced.size() - kMostUnplacedNamed);
+    }
+    return text;
+}
+
 struct Options
 {
+    QCommandLineOption load{QStringLiteral("load"),
+                            QStringLiteral("Load the values that --export wrote to IN.json, before any --set."),
+                            QStringLiteral("IN.json")};
     QCommandLineOption set{QStringLiteral("set"),
                            QStringLiteral("Set a register or a field; NUMBER is decimal, 0x... or 0b.... May be "
                                           "given again and again."),
@@ -120,7 +137,7 @@ void describe(QCommandLineParser* parser, const Options& options)
                        "by .FIELD."));
     parser->addHelpOption();
     parser->addVersionOption();
-    parser->addOptions({options.set, options.exportFile, options.screenshot, options.select});
+    parser->addOptions({options.load, options.set, options.exportFile, options.screenshot, options.select});
     parser->addPositionalArgument(QStringLiteral("FILE.svd"),
                                   QStringLiteral("The description to open; a sample device without it."),
                                   QStringLiteral("[FILE.svd]"));
@@ -231,6 +248,7 @@ CommandLine parseCommandLine(const QStringList& arguments)
     }
     QString error;
     const bool isUsable = takeFile(parser.positionalArguments(), &result.fileName, &error) &&
+                          takeSingle(parser, options.load, &result.loadFile, &error) &&
                           takeSets(parser.values(options.set), &result.sets, &error) &&
                           takeSingle(parser, options.exportFile, &result.exportFile, &error) &&
                           takeSingle(parser, options.screenshot, &result.screenshotFile, &error) &&
@@ -239,6 +257,21 @@ CommandLine parseCommandLine(const QStringList& arguments)
         error = QStringLiteral("--export and --screenshot name one file; two were expected");
     }
     return error.isEmpty() ? result : failedCommandLine(error);
+}
+
+bool applyLoad(DeviceState& state, const QString& fileName, QString* error)
+{
+    const ImportResult read = readExportFile(fileName, state);
+    if (!read.isOk()) {
+        *error = read.error;
+        return false;
+    }
+    if (!read.unplaced.isEmpty()) {
+        *error = couldNotLoad(fileName, read.unplaced);
+        return false;
+    }
+    state.setValues(read.values);
+    return true;
 }
 
 bool applySets(const Device& device, DeviceState& state, const QVector<SetRequest>& sets, QString* error)
@@ -272,6 +305,9 @@ bool openSession(const CommandLine& commandLine, Session* session, QString* erro
     Session opened;
     opened.device = read.device;
     opened.state = std::make_unique<DeviceState>(read.device);
+    if (!commandLine.loadFile.isEmpty() && !applyLoad(*opened.state, commandLine.loadFile, error)) {
+        return false;
+    }
     if (!applySets(*opened.device, *opened.state, commandLine.sets, error)) {
         return false;
     }

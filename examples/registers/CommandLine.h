@@ -37,6 +37,7 @@ struct CommandLine
     Action action = Action::Run;
     QString text; ///< for ShowHelp and ShowVersion what to print; for Fail what was wrong
     QString fileName;
+    QString loadFile;
     QVector<SetRequest> sets;
     QString exportFile;
     QString screenshotFile;
@@ -51,6 +52,9 @@ struct CommandLine
 /// Only looks at @p arguments, the first of which is the program. Prints nothing, opens nothing.
 CommandLine parseCommandLine(const QStringList& arguments);
 
+/// Loads the values of an export, all of them or none: nobody can be asked about those that have no place.
+bool applyLoad(DeviceState& state, const QString& fileName, QString* error);
+
 /// Applies @p sets in their order, all of them or none.
 bool applySets(const Device& device, DeviceState& state, const QVector<SetRequest>& sets, QString* error);
 
@@ -62,7 +66,8 @@ struct Session
     PathTarget selection; ///< invalid when nothing was asked for
 };
 
-/// Opens the description and carries out --set and --select. On failure @p session stays as it was.
+/// Opens the description and carries out --load, --set and --select, in this order. On failure @p session stays as
+/// it was.
 bool openSession(const CommandLine& commandLine, Session* session, QString* error, const SvdProgress& progress = {});
 
 /// Draws the window of a session as a PNG file's bytes.

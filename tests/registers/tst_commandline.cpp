@@ -26,6 +26,19 @@ QStringList split(const char* text)
     return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
+void writeFile(const QString& fileName, const QByteArray& bytes)
+{
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+QByteArray readFile(const QString& fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+}
+
 QByteArray testDevice()
 {
     return deviceOf(reg("R", "<size>16</size><resetValue>0x00FF</resetValue>",
@@ -63,6 +76,13 @@ private Q_SLOTS:
     void aWrongSetIsRefused();
     void setsAreAppliedInTheirOrder();
     void oneWrongSetStopsAll();
+    void loadedValuesComeBeforeSets();
+    void aFileOfAnotherDeviceIsLoaded();
+    void oneFileIsLoadedAndExported();
+    void aFileThatCannotBeLoadedIsExplained_data();
+    void aFileThatCannotBeLoadedIsExplained();
+    void registersWithoutAPlaceAreNamed();
+    void ofManyRegistersWithoutAPlaceSomeAreNamed();
     void aSessionHoldsTheSelection();
     void aFailedSessionLeavesTheOldOne();
     void anExportIsWritten();
@@ -74,6 +94,8 @@ private Q_SLOTS:
 private:
     QString path(const char* name) const { return m_dir->filePath(QString::fromLatin1(name)); }
     CommandLine batch(const QStringList& more) const;
+    /// Writes a file of @p entries to load; it was made for the device "Dev".
+    void writeRegisters(const QByteArray& entries) const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
@@ -87,14 +109,17 @@ void tst_CommandLine::initTestCase()
 void tst_CommandLine::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
-    QFile file(path("device.svd"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(testDevice());
+    writeFile(path("device.svd"), testDevice());
 }
 
 CommandLine tst_CommandLine::batch(const QStringList& more) const
 {
     return parse(QStringList{path("device.svd"), QStringLiteral("--export"), path("out.json")} + more);
+}
+
+void tst_CommandLine::writeRegisters(const QByteArray& entries) const
+{
+    writeFile(path("in.json"), R"({"device": "Dev", "registers": [)" + entries + "]}");
 }
 
 void tst_CommandLine::nothingOpensTheSample()
@@ -109,9 +134,11 @@ void tst_CommandLine::nothingOpensTheSample()
 void tst_CommandLine::allOptionsAreTaken()
 {
     const CommandLine commandLine =
-        parse(split("--set A.B=1 dev.svd --set A.B.C=0x2 --export out.json --screenshot=out.png --select A.B"));
+        parse(split("--set A.B=1 dev.svd --load in.json --set A.B.C=0x2 --export out.json --screenshot=out.png "
+                    "--select A.B"));
     QCOMPARE(int(commandLine.action), int(CommandLine::Action::Run));
     QCOMPARE(commandLine.descriptionFile(), QStringLiteral("dev.svd"));
+    QCOMPARE(commandLine.loadFile, QStringLiteral("in.json"));
     QCOMPARE(commandLine.sets.size(), 2);
     QCOMPARE(commandLine.sets.at(0).path, QStringLiteral("A.B"));
     QCOMPARE(commandLine.sets.at(0).number, QStringLiteral("1"));
@@ -129,6 +156,7 @@ void tst_CommandLine::batchIsWantedForFilesOnly_data()
 
     QTest::newRow("a file to open") << QStringLiteral("dev.svd") << false;
     QTest::newRow("values and a selection") << QStringLiteral("--set A.B=1 --select A.B") << false;
+    QTest::newRow("a file to load") << QStringLiteral("--load in.json") << false;
     QTest::newRow("an export") << QStringLiteral("--export out.json") << true;
     QTest::newRow("a screenshot") << QStringLiteral("--screenshot out.png") << true;
 }
@@ -154,6 +182,8 @@ void tst_CommandLine::wrongArgumentsAreRefused_data()
     row("an option without its value", split("--export"), "export");
     row("an empty file name", {QStringLiteral("--export"), QString()}, "--export");
     row("an export given twice", split("--export a --export b"), "only once");
+    row("two files to load", split("--load a --load b"), "only once");
+    row("no file to load", {QStringLiteral("--load"), QString()}, "--load");
     row("a set without a number", split("--set A.B"), "PATH=NUMBER");
     row("a set without a path", split("--set =1"), "PATH=NUMBER");
     row("one file for both", split("--export a/../x --screenshot ./x"), "one file");
@@ -172,7 +202,7 @@ void tst_CommandLine::helpAndVersionAreTexts()
 {
     const CommandLine help = parse(split("--help"));
     QCOMPARE(int(help.action), int(CommandLine::Action::ShowHelp));
-    for (const char* part : {"--set", "--export", "--screenshot", "--select", "FILE.svd", "PATH=NUMBER"}) {
+    for (const char* part : {"--load", "--set", "--export", "--screenshot", "--select", "FILE.svd", "PATH=NUMBER"}) {
         QVERIFY(help.text.contains(QLatin1String(part)));
     }
     const CommandLine version = parse(split("--version"));
@@ -277,6 +307,108 @@ void tst_CommandLine::oneWrongSetStopsAll()
     QCOMPARE(state.value(0), quint64(0x00FF));
 }
 
+void tst_CommandLine::loadedValuesComeBeforeSets()
+{
+    writeRegisters(R"({"path": "P.R", "value": "0x1234"}, {"path": "P.CMD", "value": "0x9"})");
+    Session session;
+    QString error;
+    const CommandLine commandLine =
+        batch({QStringLiteral("--set"), QStringLiteral("P.R.LOW=0xF"), QStringLiteral("--load"), path("in.json")});
+    QVERIFY2(openSession(commandLine, &session, &error), qPrintable(error));
+    QCOMPARE(session.state->value(0), quint64(0x123F));
+    QCOMPARE(session.state->value(2), quint64(9));
+    QCOMPARE(session.state->modifiedCount(), 2);
+}
+
+void tst_CommandLine::aFileOfAnotherDeviceIsLoaded()
+{
+    writeFile(path("in.json"), R"({"device": "Other", "registers": [{"path": "P.R", "value": 7}]})");
+    Session session;
+    QString error;
+    QVERIFY2(openSession(batch({QStringLiteral("--load"), path("in.json")}), &session, &error), qPrintable(error));
+    QCOMPARE(session.state->value(0), quint64(7));
+}
+
+void tst_CommandLine::oneFileIsLoadedAndExported()
+{
+    QString messages;
+    QTextStream errors(&messages);
+    QCOMPARE(runBatch(batch(split("--set P.R=0xABCD --set P.ID.W=1 --set P.BIG=0xFFFFFFFFFFFFFFFF")), errors), kExitOk);
+    const QByteArray first = readFile(path("out.json"));
+    QVERIFY(first.contains("\"value\": \"0xABCD\""));
+
+    QCOMPARE(runBatch(batch({QStringLiteral("--load"), path("out.json")}), errors), kExitOk);
+    QCOMPARE(readFile(path("out.json")), first);
+    QCOMPARE(messages, QString());
+}
+
+void tst_CommandLine::aFileThatCannotBeLoadedIsExplained_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("expected"); // behind the file's name
+
+    const auto row = [](const char* name, const char* json, const char* expected) {
+        QTest::newRow(name) << QByteArray(json) << QString::fromLatin1(expected);
+    };
+    row("an empty file", "", ": is empty; ");
+    row("no JSON", "{\"registers\":\n oops}", ":2:");
+    row("no list of registers", "{}", ": holds no list \"registers\"; ");
+    row("an unknown register", R"({"registers": [{"path": "P.X", "value": "1"}]})",
+        ": 1 of its registers cannot be loaded:\nP.X: ");
+    row("one good register and one without a value",
+        R"({"registers": [{"path": "P.R", "value": "1"}, {"path": "P.BIG"}]})",
+        ": 1 of its registers cannot be loaded:\nP.BIG: has no value\n");
+}
+
+void tst_CommandLine::aFileThatCannotBeLoadedIsExplained()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, expected);
+    writeFile(path("in.json"), json);
+    QString messages;
+    QTextStream errors(&messages);
+    QCOMPARE(runBatch(batch({QStringLiteral("--load"), path("in.json")}), errors), kExitBadUse);
+    QVERIFY2(messages.startsWith(QStringLiteral("tessera-registers: ") + path("in.json") + expected),
+             qPrintable(messages));
+    QVERIFY(!QFile::exists(path("out.json")));
+}
+
+void tst_CommandLine::registersWithoutAPlaceAreNamed()
+{
+    writeRegisters(R"({"path": "P.X", "value": 1}, {"path": "P.R", "value": 1}, {"path": "P.ID", "value": 1}, 5)");
+    const SvdResult result = read(testDevice());
+    VERIFY_READ(result);
+    DeviceState state(result.device);
+    QString error;
+    QVERIFY(!applyLoad(state, path("in.json"), &error));
+    const QStringList lines = error.split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 4);
+    QCOMPARE(lines.at(0), path("in.json") + QStringLiteral(": 3 of its registers cannot be loaded:"));
+    QVERIFY(lines.at(1).startsWith(QStringLiteral("P.X: ")));
+    QVERIFY(lines.at(2).startsWith(QStringLiteral("P.ID: ")));
+    QVERIFY(lines.at(3).startsWith(QStringLiteral("register 4 of the file: ")));
+    QCOMPARE(state.modifiedCount(), 0);
+}
+
+void tst_CommandLine::ofManyRegistersWithoutAPlaceSomeAreNamed()
+{
+    QByteArray entries;
+    for (int i = 1; i <= 21; ++i) {
+        entries += QByteArray(i > 1 ? "," : "") + R"({"path": "P.X)" + QByteArray::number(i) + R"(", "value": 1})";
+    }
+    writeRegisters(entries);
+    const SvdResult result = read(testDevice());
+    VERIFY_READ(result);
+    DeviceState state(result.device);
+    QString error;
+    QVERIFY(!applyLoad(state, path("in.json"), &error));
+    const QStringList lines = error.split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 22);
+    QVERIFY(lines.at(0).endsWith(QStringLiteral("21 of its registers cannot be loaded:")));
+    QVERIFY(lines.at(20).startsWith(QStringLiteral("P.X20: ")));
+    QCOMPARE(lines.at(21), QStringLiteral("and 1 more"));
+}
+
 void tst_CommandLine::aSessionHoldsTheSelection()
 {
     Session session;
@@ -311,9 +443,7 @@ void tst_CommandLine::anExportIsWritten()
     QTextStream errors(&messages);
     QCOMPARE(runBatch(batch(split("--set P.R.LOW=0b1 --select P.R")), errors), kExitOk);
     QVERIFY(messages.isEmpty());
-    QFile file(path("out.json"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QJsonObject exported = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject exported = QJsonDocument::fromJson(readFile(path("out.json"))).object();
     QCOMPARE(exported[QLatin1String("device")].toString(), QStringLiteral("Dev"));
     const QJsonArray list = exported[QLatin1String("registers")].toArray();
     QCOMPARE(list.size(), 7);
@@ -326,9 +456,9 @@ void tst_CommandLine::theSampleCanBeExported()
     QString messages;
     QTextStream errors(&messages);
     QCOMPARE(runBatch(parse({QStringLiteral("--export"), path("sample.json")}), errors), kExitOk);
-    QFile file(path("sample.json"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(QJsonDocument::fromJson(file.readAll()).object()[QLatin1String("registers")].toArray().size() > 100);
+    QVERIFY(
+        QJsonDocument::fromJson(readFile(path("sample.json"))).object()[QLatin1String("registers")].toArray().size() >
+        100);
 }
 
 void tst_CommandLine::aScreenshotComesFromTheRenderer()
@@ -342,9 +472,7 @@ void tst_CommandLine::aScreenshotComesFromTheRenderer()
         return true;
     };
     QCOMPARE(runBatch(commandLine, errors, draws), kExitOk);
-    QFile file(path("out.png"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("picture of 2"));
+    QCOMPARE(readFile(path("out.png")), QByteArray("picture of 2"));
     QVERIFY(QFile::exists(path("out.json")));
 
     QVERIFY(QFile::remove(path("out.json")));
@@ -382,14 +510,8 @@ void tst_CommandLine::aWrongCallWritesNothing()
     QFETCH(QByteArray, description);
     QFETCH(QString, more);
     QFETCH(QString, part);
-    QFile file(path("device.svd"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(description);
-    file.close();
-    QFile old(path("out.json"));
-    QVERIFY(old.open(QIODevice::WriteOnly));
-    old.write("old");
-    old.close();
+    writeFile(path("device.svd"), description);
+    writeFile(path("out.json"), "old");
 
     QString messages;
     QTextStream errors(&messages);
@@ -398,8 +520,7 @@ void tst_CommandLine::aWrongCallWritesNothing()
     QCOMPARE(runBatch(commandLine, errors), kExitBadUse);
     QVERIFY2(messages.startsWith(QStringLiteral("tessera-registers: ")) && messages.contains(part),
              qPrintable(messages));
-    QVERIFY(old.open(QIODevice::ReadOnly));
-    QCOMPARE(old.readAll(), QByteArray("old"));
+    QCOMPARE(readFile(path("out.json")), QByteArray("old"));
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files),
              (QStringList{QStringLiteral("device.svd"), QStringLiteral("out.json")}));
 }

@@ -12,8 +12,6 @@ namespace registers {
 
 namespace {
 
-// The largest integers that every JSON reader keeps exactly lie below this one.
-constexpr quint64 kExactNumberLimit = quint64(1) << 53;
 constexpr int kAddressDigits = 8;
 
 /// Appends JSON text. Keys keep the order in which they are written, which QJsonObject would not do.

@@ -9,6 +9,9 @@ namespace registers {
 
 class DeviceState;
 
+/// The largest integers that every JSON reader keeps exactly lie below this one.
+constexpr quint64 kExactNumberLimit = quint64(1) << 53;
+
 /// All registers and fields with their present values as JSON text: UTF-8, one line per register.
 QByteArray exportJson(const DeviceState& state);
 
