@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GuiTestSupport.h"
 
+#include "gui/DeviceEdits.h"
 #include "gui/DeviceFilterModel.h"
 #include "gui/DeviceLoader.h"
 #include "gui/DevicePanel.h"
@@ -224,7 +225,8 @@ QModelIndex tst_MainWindow::row(const QString& name) const
 void tst_MainWindow::theTreeKeepsTheModelsPromises()
 {
     DeviceState state(smallDevice());
-    DeviceTreeModel model(state);
+    DeviceEdits edits(state);
+    DeviceTreeModel model(edits);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     QCOMPARE(model.rowCount(), 2);
     state.setValue(2, 5);
@@ -234,7 +236,8 @@ void tst_MainWindow::theTreeKeepsTheModelsPromises()
 void tst_MainWindow::theFilteredTreeKeepsTheModelsPromises()
 {
     DeviceState state(smallDevice());
-    DeviceTreeModel model(state);
+    DeviceEdits edits(state);
+    DeviceTreeModel model(edits);
     DeviceFilterModel filterModel;
     filterModel.setDeviceModel(&model);
     const QAbstractItemModelTester tester(&filterModel, QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -545,7 +548,7 @@ void tst_MainWindow::tenThousandRegistersAreQuick()
     filter(QStringLiteral("REG99"));
     filter(QString());
     for (int i = 0; i < 20; ++i) {
-        m_window->devicePanel()->setCurrentNode(m_window->session().device->registerAt(i * 400).node);
+        m_window->devicePanel()->setCurrentPlace({m_window->session().device->registerAt(i * 400).node});
     }
     QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
 }

@@ -3,6 +3,7 @@
 
 #include "gui/Badge.h"
 #include "gui/BitStrip.h"
+#include "gui/DeviceEdits.h"
 #include "gui/EnumBox.h"
 #include "gui/FieldTable.h"
 #include "gui/FormView.h"
@@ -29,10 +30,11 @@ struct Stage
 {
     explicit Stage(const Register& reg)
         : state(makeDevice({reg, makeRegister(QStringLiteral("OTHER"), 32)}))
+        , edits(state)
         , changed(&state, &DeviceState::registerChanged)
     {
         view.resize(700, 400);
-        view.showNode(state, state.device().registerAt(0).node);
+        view.showNode(edits, state.device().registerAt(0).node);
         isActive = showAndActivate(&view);
     }
 
@@ -48,6 +50,7 @@ struct Stage
     static QString text(QWidget* editor) { return edit(editor)->text(); }
 
     DeviceState state;
+    DeviceEdits edits;
     QSignalSpy changed;
     FormView view;
     bool isActive = false;

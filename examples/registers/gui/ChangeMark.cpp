@@ -12,7 +12,7 @@ namespace registers {
 namespace {
 
 constexpr int kMarkSide = 12;
-constexpr double kDotShare = 0.33; ///< of the area's side, as the radius
+constexpr double kDotShare = 0.27; ///< of the area's side, as the radius
 constexpr double kRingWidth = 1.4;
 
 class MarkIconEngine : public QIconEngine

@@ -2,7 +2,7 @@
 #include "gui/DeviceFilterModel.h"
 
 #include "device/DeviceExport.h"
-#include "gui/DeviceTreeModel.h"
+#include "device/DeviceState.h"
 
 #include <algorithm>
 
@@ -18,30 +18,61 @@ DeviceFilterModel::DeviceFilterModel(QObject* parent)
     : QSortFilterProxyModel(parent)
 {
     setDynamicSortFilter(false);
+    m_refilter.setSingleShot(true);
+    connect(&m_refilter, &QTimer::timeout, this, [this] {
+        refilter();
+        Q_EMIT refiltered();
+    });
 }
 
 void DeviceFilterModel::setDeviceModel(DeviceTreeModel* model)
 {
     m_model = model;
     m_paths.clear();
-    m_paths.reserve(model->device().nodes().size());
-    for (int node = 0; node < model->device().nodes().size(); ++node) {
-        m_paths.append(model->device().nodePath(node));
+    m_paths.reserve(device().nodes().size());
+    for (int node = 0; node < device().nodes().size(); ++node) {
+        m_paths.append(device().nodePath(node));
     }
-    judgeNodes();
+    m_firstField.clear();
+    m_firstField.reserve(device().registerCount());
+    int fieldCount = 0;
+    for (const Register& reg : device().registers()) {
+        m_firstField.append(fieldCount);
+        fieldCount += reg.fields.size();
+    }
+    judgeAll();
     setSourceModel(model);
+    const auto refilterLater = [this] {
+        if (m_changesOnly) {
+            m_refilter.start(0);
+        }
+    };
+    connect(&model->state(), &DeviceState::registerChanged, this, refilterLater);
+    connect(&model->state(), &DeviceState::allChanged, this, refilterLater);
 }
 
 void DeviceFilterModel::setText(const QString& text)
 {
-    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    if (words == m_words) {
-        return;
+    if (text != m_text) {
+        m_text = text;
+        m_words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        refilter();
     }
-    m_words = words;
+}
+
+void DeviceFilterModel::setChangesOnly(bool changesOnly)
+{
+    if (changesOnly != m_changesOnly) {
+        m_changesOnly = changesOnly;
+        refilter();
+    }
+}
+
+void DeviceFilterModel::refilter()
+{
     if (m_model) {
-        judgeNodes();
-        invalidateFilter();
+        judgeAll();
+        m_model->reread();
     }
 }
 
@@ -53,55 +84,87 @@ bool DeviceFilterModel::matches(const QString& path, const QString& address) con
     });
 }
 
-void DeviceFilterModel::judgeNodes()
+bool DeviceFilterModel::matchesField(const QString& path, const Field& field) const
 {
-    const Device& device = m_model->device();
+    return std::all_of(m_words.begin(), m_words.end(), [&](const QString& word) {
+        return field.name.contains(word, Qt::CaseInsensitive) || path.contains(word, Qt::CaseInsensitive) ||
+               (word.contains(QLatin1Char('.')) &&
+                QString(path + QLatin1Char('.') + field.name).contains(word, Qt::CaseInsensitive));
+    });
+}
+
+void DeviceFilterModel::judgeAll()
+{
     m_hits.clear();
-    m_registerCount = device.registerCount();
-    m_accepted.fill(m_words.isEmpty(), device.nodes().size());
-    if (m_words.isEmpty()) {
-        return;
-    }
     m_registerCount = 0;
-    QVector<bool> matched(device.nodes().size(), false);
-    for (int node = Device::kRootNode + 1; node < device.nodes().size(); ++node) {
-        const Node& judged = device.node(node);
-        const bool inherited = matched.at(judged.parent);
-        if (!inherited && !matches(m_paths.at(node), hexNumber(judged.address, kAddressDigits))) {
-            continue;
-        }
-        matched[node] = true;
-        m_accepted[node] = true;
-        m_registerCount += judged.kind == NodeKind::Register ? 1 : 0;
-        if (!inherited) {
-            m_hits.append(node);
-            acceptParents(node);
+    m_accepted.fill(false, device().nodes().size());
+    m_acceptedFields.fill(false, device().fieldCount());
+    m_accepted[Device::kRootNode] = true;
+    QVector<bool> matched(device().nodes().size(), m_words.isEmpty());
+    for (int node = Device::kRootNode + 1; node < device().nodes().size(); ++node) {
+        const Node& judged = device().node(node);
+        const bool isBelowMatch = matched.at(judged.parent);
+        matched[node] = isBelowMatch || matches(m_paths.at(node), hexNumber(judged.address, kAddressDigits));
+        if (judged.kind == NodeKind::Register) {
+            judgeRegister(node, matched.at(node), isBelowMatch);
+        } else if (matched.at(node) && !m_changesOnly) {
+            acceptWithParents(node);
+            if (!isBelowMatch) {
+                m_hits.append(TreePlace{node});
+            }
         }
     }
 }
 
-void DeviceFilterModel::acceptParents(int node)
+void DeviceFilterModel::judgeRegister(int node, bool matches, bool isBelowMatch)
 {
-    for (int above = m_model->device().node(node).parent; above >= 0 && !m_accepted.at(above);
-         above = m_model->device().node(above).parent) {
+    const int index = device().node(node).registerIndex;
+    const Register& reg = device().registerAt(index);
+    if (m_changesOnly && !m_model->state().isModified(index)) {
+        return;
+    }
+    if (matches && (m_changesOnly || !isBelowMatch)) {
+        m_hits.append(TreePlace{node});
+    }
+    bool isAccepted = matches;
+    for (int i = 0; i < reg.fields.size(); ++i) {
+        if ((matches || matchesField(m_paths.at(node), reg.fields.at(i))) &&
+            (!m_changesOnly || m_model->state().isFieldModified(index, i))) {
+            m_acceptedFields[m_firstField.at(index) + i] = true;
+            isAccepted = true;
+            if (!matches) {
+                m_hits.append(TreePlace{node, i});
+            }
+        }
+    }
+    if (isAccepted) {
+        acceptWithParents(node);
+        ++m_registerCount;
+    }
+}
+
+void DeviceFilterModel::acceptWithParents(int node)
+{
+    for (int above = node; !m_accepted.at(above); above = device().node(above).parent) {
         m_accepted[above] = true;
     }
 }
 
 bool DeviceFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
-    const Node& parent = m_model->device().node(DeviceTreeModel::nodeOf(sourceParent));
-    return m_accepted.at(parent.children.at(sourceRow));
+    const Node& parent = device().node(DeviceTreeModel::placeOf(sourceParent).node);
+    return parent.kind == NodeKind::Register ? m_acceptedFields.at(m_firstField.at(parent.registerIndex) + sourceRow)
+                                             : m_accepted.at(parent.children.at(sourceRow));
 }
 
-QModelIndex DeviceFilterModel::indexOfNode(int node) const
+QModelIndex DeviceFilterModel::indexOf(const TreePlace& place) const
 {
-    return m_model ? mapFromSource(m_model->indexOfNode(node)) : QModelIndex();
+    return m_model ? mapFromSource(m_model->indexOf(place)) : QModelIndex();
 }
 
-int DeviceFilterModel::nodeOf(const QModelIndex& index) const
+TreePlace DeviceFilterModel::placeOf(const QModelIndex& index) const
 {
-    return DeviceTreeModel::nodeOf(mapToSource(index));
+    return DeviceTreeModel::placeOf(mapToSource(index));
 }
 
 } // namespace registers

@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "gui/DeviceTreeModel.h"
+
 #include <QSortFilterProxyModel>
+#include <QTimer>
 #include <QVector>
 
 namespace registers {
 
-class DeviceTreeModel;
-
-/// The part of the device tree that a text is found in, with everything above and below it.
+/// The part of the device tree that a text is found in, that has changed, or both, with everything above it.
 ///
-/// Every word must be found in the path. A word that begins with "0x" is looked for in the address as well. All
-/// nodes are judged once for each text, so that the rows themselves are only looked up.
+/// Every word must be found in the path. A word that begins with "0x" is looked for in the address as well. What a
+/// match holds is shown too. All rows are judged once for each text or change, so that they are only looked up later.
 class DeviceFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -21,31 +22,48 @@ public:
 
     /// @p model must live as long as this model, or until another is set.
     void setDeviceModel(DeviceTreeModel* model);
+    QString text() const { return m_text; }
     void setText(const QString& text);
-    bool isFiltering() const { return !m_words.isEmpty(); }
+    /// Leaves only what differs from its reset value; the rows follow every change.
+    void setChangesOnly(bool changesOnly);
+    bool changesOnly() const { return m_changesOnly; }
+    bool isFiltering() const { return m_changesOnly || !m_words.isEmpty(); }
 
-    /// The nodes that match without their parent matching, in the tree's order; empty without a text.
-    const QVector<int>& hits() const { return m_hits; }
+    /// What matches without its parent matching, in the tree's order; empty when nothing is filtered.
+    const QVector<TreePlace>& hits() const { return m_hits; }
     /// How many registers are left.
     int registerCount() const { return m_registerCount; }
 
-    QModelIndex indexOfNode(int node) const;
-    int nodeOf(const QModelIndex& index) const;
+    QModelIndex indexOf(const TreePlace& place) const;
+    TreePlace placeOf(const QModelIndex& index) const;
+
+Q_SIGNALS:
+    /// Changed values have led to other rows.
+    void refiltered();
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
 
 private:
-    void judgeNodes();
-    void acceptParents(int node);
+    void refilter();
+    void judgeAll();
+    void judgeRegister(int node, bool matches, bool isBelowMatch);
+    void acceptWithParents(int node);
     bool matches(const QString& path, const QString& address) const;
+    bool matchesField(const QString& path, const Field& field) const;
+    const Device& device() const { return m_model->device(); }
 
     DeviceTreeModel* m_model = nullptr;
+    QTimer m_refilter; ///< gathers the changes of one turn
     QVector<QString> m_paths;
-    QStringList m_words;
+    QVector<int> m_firstField; ///< of a register, in m_acceptedFields
+    QString m_text;
+    QStringList m_words; ///< of the text
     QVector<bool> m_accepted;
-    QVector<int> m_hits;
+    QVector<bool> m_acceptedFields;
+    QVector<TreePlace> m_hits;
     int m_registerCount = 0;
+    bool m_changesOnly = false;
 };
 
 } // namespace registers

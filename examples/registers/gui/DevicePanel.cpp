@@ -3,17 +3,22 @@
 
 #include "device/DeviceExport.h"
 #include "device/DeviceState.h"
+#include "gui/DeviceEdits.h"
 #include "gui/DeviceFilterModel.h"
-#include "gui/DeviceTreeModel.h"
 #include "gui/Icons.h"
 #include "gui/Theme.h"
+#include "gui/ValueDelegate.h"
+
+#include <Tessera/views/CBitDialog.h>
+#include <Tessera/views/ItemRoles.h>
+#include <Tessera/views/TrView.h>
 
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,9 +31,10 @@ constexpr int kMargin = 8;
 constexpr int kFilterDelayMs = 60;
 constexpr int kAddressDigits = 8;
 constexpr int kColumnMargin = 14;
+constexpr int kRowMargin = 8;
 constexpr int kMostHitsToOpen = 400;
-constexpr int kMarkSide = 12;
-constexpr int kNameLength = 10;
+constexpr int kMarkSide = 16;
+constexpr int kNameLength = 14;
 constexpr int kIndentation = 16;
 
 } // namespace
@@ -36,7 +42,7 @@ constexpr int kIndentation = 16;
 DevicePanel::DevicePanel(QWidget* parent)
     : QWidget(parent)
     , m_filterEdit(new QLineEdit(this))
-    , m_view(new QTreeView(this))
+    , m_view(new nsUI::TrView(this))
     , m_noHits(new QLabel(m_view))
     , m_filter(std::make_unique<DeviceFilterModel>())
 {
@@ -66,41 +72,63 @@ void DevicePanel::initFilter()
     m_filterDelay.setInterval(kFilterDelayMs);
     connect(m_filterEdit, &QLineEdit::textChanged, &m_filterDelay, QOverload<>::of(&QTimer::start));
     connect(&m_filterDelay, &QTimer::timeout, this, &DevicePanel::applyFilter);
+    connect(m_filter.get(), &DeviceFilterModel::refiltered, this, &DevicePanel::showFiltered);
 }
 
 void DevicePanel::initView()
 {
     m_view->setUniformRowHeights(true);
     m_view->setAllColumnsShowFocus(true);
+    m_view->setAlternatingRowColors(true);
     m_view->setIndentation(kIndentation);
     m_view->setIconSize(QSize(kMarkSide, kMarkSide));
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    // Not on becoming current: walking through the tree would open one editor after the other.
+    m_view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
+                            QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+    m_view->setExpandsOnDoubleClick(false); // a double click edits; the arrows open and close
+    m_view->setItemDelegate(new ValueDelegate(m_view));
     m_view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_view->installEventFilter(this);
     m_view->setModel(m_filter.get());
-    m_view->header()->setStretchLastSection(false);
+    m_view->header()->setStretchLastSection(true);
     m_view->header()->setHighlightSections(false);
+    m_view->header()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DevicePanel::reportCurrent);
 
-    m_noHits->setText(tr("Nothing matches the filter."));
     m_noHits->setAlignment(Qt::AlignCenter);
     m_noHits->hide();
     auto* over = new QVBoxLayout(m_view);
     over->addWidget(m_noHits);
 }
 
-void DevicePanel::setState(const DeviceState& state)
+void DevicePanel::setEdits(DeviceEdits& edits)
 {
     m_filterEdit->clear();
     m_filterDelay.stop();
     m_expandedBefore.clear();
     m_filter->setText(QString());
-    auto model = std::make_unique<DeviceTreeModel>(state);
+    m_filter->setChangesOnly(false);
+    auto model = std::make_unique<DeviceTreeModel>(edits);
+    model->setBase(m_base);
     m_filter->setDeviceModel(model.get());
     m_model = std::move(model);
-    m_reportedNode = Device::kRootNode;
+    m_reported = {};
     m_noHits->hide();
     updateColumns();
+}
+
+// --- Look -----------------------------------------------------------------------------------------------------------
+
+void DevicePanel::setBase(NumberBase base)
+{
+    m_base = base;
+    if (m_model) {
+        m_model->setBase(base);
+        updateColumns();
+    }
 }
 
 void DevicePanel::updateColumns()
@@ -109,134 +137,34 @@ void DevicePanel::updateColumns()
         return;
     }
     QFont numbers = numberFont(m_view->font());
-    m_model->setNumberFont(numbers);
+    m_model->setLook(numbers, fontMetrics().height() + kRowMargin);
     numbers.setBold(true);
     const QFontMetrics metrics(numbers);
     int largestSize = 1;
     for (const Register& reg : m_model->device().registers()) {
         largestSize = std::max<int>(largestSize, reg.size);
     }
-    const QString value = hexNumber(0, std::max(kAddressDigits, hexDigits(largestSize)));
+    const QString address = hexNumber(0, kAddressDigits);
+    const QString value = paddedNumber(bitMask(largestSize), largestSize, m_base);
+    const int valueWidth = metrics.horizontalAdvance(value.size() > address.size() ? value : address) + kColumnMargin;
     QHeaderView* header = m_view->header();
-    header->setSectionResizeMode(DeviceTreeModel::NameColumn, QHeaderView::Stretch);
-    header->setSectionResizeMode(DeviceTreeModel::AddressColumn, QHeaderView::Interactive);
-    header->setSectionResizeMode(DeviceTreeModel::ValueColumn, QHeaderView::Interactive);
-    header->resizeSection(DeviceTreeModel::AddressColumn,
-                          metrics.horizontalAdvance(hexNumber(0, kAddressDigits)) + kColumnMargin);
-    header->resizeSection(DeviceTreeModel::ValueColumn, metrics.horizontalAdvance(value) + kColumnMargin);
+    header->resizeSection(DeviceTreeModel::NameColumn,
+                          fontMetrics().horizontalAdvance(QString(kNameLength, QLatin1Char('N'))) + 3 * kIndentation);
+    header->resizeSection(DeviceTreeModel::AddressColumn, metrics.horizontalAdvance(address) + kColumnMargin);
+    header->resizeSection(DeviceTreeModel::ValueColumn, valueWidth + metrics.horizontalAdvance(QLatin1Char('0')));
+    header->resizeSection(DeviceTreeModel::BytesColumn, header->sectionSizeHint(DeviceTreeModel::BytesColumn));
+    header->resizeSection(DeviceTreeModel::ResetColumn, valueWidth);
+    header->resizeSection(DeviceTreeModel::AccessColumn,
+                          fontMetrics().horizontalAdvance(tr("read, write once")) + kColumnMargin);
 }
 
 int DevicePanel::preferredWidth() const
 {
-    const QHeaderView* header = m_view->header();
-    const int names = fontMetrics().horizontalAdvance(QString(kNameLength, QLatin1Char('N')));
-    return names + 3 * m_view->indentation() + header->sectionSize(DeviceTreeModel::AddressColumn) +
-           header->sectionSize(DeviceTreeModel::ValueColumn) + style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
-           2 * kMargin;
-}
-
-int DevicePanel::currentNode() const
-{
-    return m_model ? m_filter->nodeOf(m_view->currentIndex()) : Device::kRootNode;
-}
-
-void DevicePanel::setCurrentNode(int node)
-{
-    if (!m_filter->indexOfNode(node).isValid() && !m_filterEdit->text().isEmpty()) {
-        m_filterEdit->clear();
-        m_filterDelay.stop();
-        applyFilter();
+    int width = style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * kMargin;
+    for (int column = 0; column < DeviceTreeModel::DescriptionColumn; ++column) {
+        width += m_view->header()->sectionSize(column);
     }
-    const QModelIndex index = m_filter->indexOfNode(node);
-    m_view->setCurrentIndex(index);
-    m_view->scrollTo(index);
-}
-
-void DevicePanel::focusFilter()
-{
-    m_filterEdit->setFocus(Qt::ShortcutFocusReason);
-    m_filterEdit->selectAll();
-}
-
-void DevicePanel::applyFilter()
-{
-    if (!m_model) {
-        return;
-    }
-    const int current = m_reportedNode;
-    if (!m_filter->isFiltering()) {
-        m_expandedBefore.clear();
-        for (int node = 0; node < m_model->device().nodes().size(); ++node) {
-            if (!m_model->device().node(node).children.isEmpty() && m_view->isExpanded(m_filter->indexOfNode(node))) {
-                m_expandedBefore.append(node);
-            }
-        }
-    }
-    m_filter->setText(m_filterEdit->text());
-    if (m_filter->isFiltering()) {
-        showHits();
-    } else {
-        restoreExpanded();
-    }
-    m_noHits->setVisible(m_filter->isFiltering() && m_filter->hits().isEmpty());
-    // What is shown at the right stays current, if only it is still there.
-    const QModelIndex index = m_filter->indexOfNode(current);
-    if (index.isValid()) {
-        m_view->setCurrentIndex(index);
-        m_view->scrollTo(index);
-    } else {
-        m_view->scrollToTop();
-    }
-}
-
-void DevicePanel::showHits()
-{
-    const int count = std::min(m_filter->hits().size(), kMostHitsToOpen);
-    for (int i = 0; i < count; ++i) {
-        for (int node = m_model->device().node(m_filter->hits().at(i)).parent; node > Device::kRootNode;
-             node = m_model->device().node(node).parent) {
-            m_view->expand(m_filter->indexOfNode(node));
-        }
-    }
-}
-
-void DevicePanel::restoreExpanded()
-{
-    m_view->collapseAll();
-    for (const int node : qAsConst(m_expandedBefore)) {
-        m_view->expand(m_filter->indexOfNode(node));
-    }
-}
-
-void DevicePanel::reportCurrent()
-{
-    // A filter that hides the current row moves the view's current index; the form keeps what it shows.
-    const int node = currentNode();
-    if (node != Device::kRootNode && node != m_reportedNode) {
-        m_reportedNode = node;
-        Q_EMIT currentNodeChanged(node);
-    }
-}
-
-bool DevicePanel::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_filterEdit && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter) {
-            m_filterDelay.stop();
-            applyFilter();
-            m_view->setFocus(Qt::TabFocusReason);
-            if (key != Qt::Key_Down && !m_filter->hits().isEmpty()) {
-                setCurrentNode(m_filter->hits().first());
-            }
-            return true;
-        }
-        if (key == Qt::Key_Escape && !m_filterEdit->text().isEmpty()) {
-            m_filterEdit->clear();
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
+    return width;
 }
 
 void DevicePanel::changeEvent(QEvent* event)
@@ -245,6 +173,254 @@ void DevicePanel::changeEvent(QEvent* event)
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         updateColumns();
     }
+}
+
+// --- The current row ------------------------------------------------------------------------------------------------
+
+TreePlace DevicePanel::currentPlace() const
+{
+    return m_model ? m_filter->placeOf(m_view->currentIndex()) : TreePlace();
+}
+
+void DevicePanel::setCurrentPlace(const TreePlace& place)
+{
+    if (!m_filter->indexOf(place).isValid() && m_filter->isFiltering()) {
+        m_filterEdit->clear();
+        m_filterDelay.stop();
+        m_filter->setChangesOnly(false);
+        m_filter->setText(QString());
+        showFiltered();
+    }
+    const QModelIndex index = m_filter->indexOf(place);
+    m_view->setCurrentIndex(index);
+    m_view->scrollTo(index);
+}
+
+void DevicePanel::expandCurrent()
+{
+    m_view->expand(m_view->currentIndex());
+}
+
+void DevicePanel::reportCurrent()
+{
+    // A filter that hides the current row moves the view's current index; the form keeps what it shows.
+    const TreePlace place = currentPlace();
+    if (place.node != Device::kRootNode && place != m_reported) {
+        m_reported = place;
+        Q_EMIT currentPlaceChanged(place);
+    }
+}
+
+bool DevicePanel::editValue()
+{
+    const QModelIndex value = m_view->currentIndex().siblingAtColumn(DeviceTreeModel::ValueColumn);
+    if (!value.flags().testFlag(Qt::ItemIsEditable)) {
+        return false;
+    }
+    m_view->setCurrentIndex(value);
+    m_view->edit(value);
+    return true;
+}
+
+int DevicePanel::registerOfBits() const
+{
+    const TreePlace place = currentPlace();
+    if (!m_model || !m_model->targetOf(place).isValid()) {
+        return -1;
+    }
+    const QModelIndex bytes = m_model->indexOf({place.node}, DeviceTreeModel::BytesColumn);
+    return bytes.data(nsUI::e_Role_ItemType).toInt() == nsUI::e_Item_ByteArray ? m_model->targetOf(place).registerIndex
+                                                                               : -1;
+}
+
+bool DevicePanel::editBits()
+{
+    if (registerOfBits() < 0) {
+        return false;
+    }
+    const TreePlace place{currentPlace().node};
+    const QPersistentModelIndex bytes = m_model->indexOf(place, DeviceTreeModel::BytesColumn);
+    const QByteArray edited = nsUI::CBitDialog::getByteArray(
+        bytes.data(Qt::EditRole).toByteArray(), bytes.data(nsUI::e_Role_BitDescriptions).value<QMap<int, QString>>(),
+        window(), tr("Bits of %1").arg(m_model->pathOf(place)));
+    if (!edited.isNull() && bytes.isValid()) {
+        m_model->setData(bytes, edited, Qt::EditRole);
+    }
+    return true;
+}
+
+QString DevicePanel::selectedText() const
+{
+    QVector<TreePlace> places;
+    for (const QItemSelectionRange& range : m_view->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            places.append(m_filter->placeOf(m_filter->index(row, 0, range.parent())));
+        }
+    }
+    std::sort(places.begin(), places.end(), [](const TreePlace& a, const TreePlace& b) {
+        return a.node != b.node ? a.node < b.node : a.field < b.field;
+    });
+    QString text;
+    for (const TreePlace& place : qAsConst(places)) {
+        QStringList cells{m_model->pathOf(place)};
+        for (int column = DeviceTreeModel::AddressColumn; column < DeviceTreeModel::ColumnCount; ++column) {
+            if (column != DeviceTreeModel::BytesColumn) {
+                cells.append(m_model->indexOf(place, column).data().toString());
+            }
+        }
+        text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+// --- The filter -----------------------------------------------------------------------------------------------------
+
+bool DevicePanel::changesOnly() const
+{
+    return m_filter->changesOnly();
+}
+
+void DevicePanel::setChangesOnly(bool changesOnly)
+{
+    if (!m_model || changesOnly == m_filter->changesOnly()) {
+        return;
+    }
+    rememberExpanded();
+    m_filter->setChangesOnly(changesOnly);
+    showFiltered();
+}
+
+void DevicePanel::focusFilter()
+{
+    m_filterEdit->setFocus(Qt::ShortcutFocusReason);
+    m_filterEdit->selectAll();
+}
+
+void DevicePanel::findNext()
+{
+    m_filterDelay.stop();
+    applyFilter();
+    const QVector<TreePlace>& hits = m_filter->hits();
+    if (hits.isEmpty()) {
+        focusFilter();
+        return;
+    }
+    setCurrentPlace(hits.at((hits.indexOf(m_reported) + 1) % hits.size()));
+}
+
+void DevicePanel::applyFilter()
+{
+    if (m_model && m_filterEdit->text() != m_filter->text()) {
+        rememberExpanded();
+        m_filter->setText(m_filterEdit->text());
+        showFiltered();
+    }
+}
+
+void DevicePanel::rememberExpanded()
+{
+    if (m_filter->isFiltering()) {
+        return;
+    }
+    m_expandedBefore.clear();
+    for (int node = 0; node < m_model->device().nodes().size(); ++node) {
+        if (m_view->isExpanded(m_filter->indexOf({node}))) {
+            m_expandedBefore.append(node);
+        }
+    }
+}
+
+void DevicePanel::showFiltered()
+{
+    const TreePlace current = m_reported;
+    if (m_filter->isFiltering()) {
+        expandHits();
+    } else {
+        restoreExpanded();
+    }
+    m_noHits->setText(m_filterEdit->text().isEmpty() ? tr("Nothing has changed.") : tr("Nothing matches the filter."));
+    m_noHits->setVisible(m_filter->isFiltering() && m_filter->hits().isEmpty());
+    keepCurrent(current);
+}
+
+void DevicePanel::expandHits()
+{
+    const int count = std::min(m_filter->hits().size(), kMostHitsToOpen);
+    for (int i = 0; i < count; ++i) {
+        const TreePlace& hit = m_filter->hits().at(i);
+        const bool showsFields = hit.field >= 0 || m_filter->changesOnly();
+        for (int node = showsFields ? hit.node : m_model->device().node(hit.node).parent; node > Device::kRootNode;
+             node = m_model->device().node(node).parent) {
+            m_view->expand(m_filter->indexOf({node}));
+        }
+    }
+}
+
+/// The rows have just been read anew, and all of them are closed.
+void DevicePanel::restoreExpanded()
+{
+    for (const int node : qAsConst(m_expandedBefore)) {
+        m_view->expand(m_filter->indexOf({node}));
+    }
+}
+
+/// What is shown in the form stays current, if only it is still there.
+void DevicePanel::keepCurrent(const TreePlace& place)
+{
+    const QModelIndex index = m_filter->indexOf(place);
+    if (index.isValid()) {
+        m_view->setCurrentIndex(index.siblingAtColumn(std::max(0, m_view->currentIndex().column())));
+        m_view->scrollTo(index);
+    } else {
+        m_view->setCurrentIndex(QModelIndex()); // or the view takes the first row when it gets the focus
+        m_view->scrollToTop();
+    }
+}
+
+// --- Keys -----------------------------------------------------------------------------------------------------------
+
+bool DevicePanel::filterKeyPressed(int key)
+{
+    switch (key) {
+    case Qt::Key_Down:
+        m_filterDelay.stop();
+        applyFilter();
+        m_view->setFocus(Qt::TabFocusReason);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        m_filterDelay.stop();
+        applyFilter();
+        m_view->setFocus(Qt::TabFocusReason);
+        if (!m_filter->hits().isEmpty()) {
+            setCurrentPlace(m_filter->hits().first());
+        }
+        return true;
+    case Qt::Key_Escape:
+        if (m_filterEdit->text().isEmpty()) {
+            return false;
+        }
+        m_filterEdit->clear();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool DevicePanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return QWidget::eventFilter(watched, event);
+    }
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (watched == m_filterEdit && filterKeyPressed(key)) {
+        return true;
+    }
+    const bool edits = key == Qt::Key_F2 || key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (watched == m_view && edits && editValue()) {
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace registers

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "gui/DeviceTreeModel.h"
+
 #include <QTimer>
 #include <QVector>
 #include <QWidget>
@@ -15,11 +17,10 @@ QT_END_NAMESPACE
 
 namespace registers {
 
+class DeviceEdits;
 class DeviceFilterModel;
-class DeviceState;
-class DeviceTreeModel;
 
-/// The tree of a device with the line that filters it.
+/// The tree of a device, with its values to be edited, and the line that filters it.
 class DevicePanel : public QWidget
 {
     Q_OBJECT
@@ -28,13 +29,32 @@ public:
     explicit DevicePanel(QWidget* parent = nullptr);
     ~DevicePanel() override;
 
-    /// Shows another device. @p state must live until the next call, or as long as this widget.
-    void setState(const DeviceState& state);
+    /// Shows another device. @p edits must live until the next call, or as long as this widget.
+    void setEdits(DeviceEdits& edits);
 
-    /// The node that is current; the device itself when none is.
-    int currentNode() const;
-    /// Makes a node current and visible. A filter that hides it is cleared.
-    void setCurrentNode(int node);
+    /// The row that is current; the device itself when none is.
+    TreePlace currentPlace() const;
+    /// Makes a row current and visible. A filter that hides it is cleared.
+    void setCurrentPlace(const TreePlace& place);
+
+    /// Shows what the current row holds.
+    void expandCurrent();
+
+    NumberBase base() const { return m_base; }
+    /// The base of all values and reset values.
+    void setBase(NumberBase base);
+    bool changesOnly() const;
+    void setChangesOnly(bool changesOnly);
+
+    /// Opens the editor of the current row's value. False when it has none.
+    bool editValue();
+    /// Opens the bit dialog on the current row's register, or the one that its field is in; writes what it gives.
+    /// False when there is none that can be written.
+    bool editBits();
+    /// The register that editBits() would edit, or -1.
+    int registerOfBits() const;
+    /// The selected rows as text: one line each, in the tree's order, with a tab between columns.
+    QString selectedText() const;
 
     /// The width that shows addresses and values, and names of a usual length.
     int preferredWidth() const;
@@ -43,9 +63,11 @@ public:
     QLineEdit* filterEdit() const { return m_filterEdit; }
     /// Puts the cursor into the filter line.
     void focusFilter();
+    /// Makes the next match of the filter current; after the last one the first.
+    void findNext();
 
 Q_SIGNALS:
-    void currentNodeChanged(int node);
+    void currentPlaceChanged(const TreePlace& place);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -54,9 +76,13 @@ protected:
 private:
     void initView();
     void initFilter();
+    bool filterKeyPressed(int key);
     void applyFilter();
-    void showHits();
+    void rememberExpanded();
+    void showFiltered();
+    void expandHits();
     void restoreExpanded();
+    void keepCurrent(const TreePlace& place);
     void updateColumns();
     void reportCurrent();
 
@@ -67,7 +93,8 @@ private:
     std::unique_ptr<DeviceFilterModel> m_filter;
     QTimer m_filterDelay;
     QVector<int> m_expandedBefore; ///< nodes that were open before the filter
-    int m_reportedNode = 0;
+    TreePlace m_reported;
+    NumberBase m_base = NumberBase::Hexadecimal;
 };
 
 } // namespace registers

@@ -3,57 +3,83 @@
 
 #include "device/DeviceExport.h"
 #include "device/DeviceState.h"
+#include "gui/Access.h"
 #include "gui/ChangeMark.h"
+#include "gui/DeviceEdits.h"
+#include "gui/Icons.h"
+#include "gui/RegisterBits.h"
+#include "gui/ValueCell.h"
+
+#include <Tessera/views/ItemRoles.h>
 
 namespace registers {
 
 namespace {
 
 constexpr int kAddressDigits = 8;
+/// In an index, beside the number of the register's node. There are far fewer nodes.
+constexpr quintptr kFieldFlag = 0x80000000U;
 
-MarkShape markShape(const Node& node, int changed)
-{
-    if (changed == 0) {
-        return MarkShape::None;
-    }
-    return node.kind == NodeKind::Register ? MarkShape::Dot : MarkShape::Ring;
-}
-
-const QIcon& sharedMarkIcon(MarkShape shape)
+const QIcon& markOf(const Node& node, const TreePlace& place, bool isChanged)
 {
     static const QIcon none = markIcon(MarkShape::None);
     static const QIcon dot = markIcon(MarkShape::Dot);
     static const QIcon ring = markIcon(MarkShape::Ring);
-    return shape == MarkShape::None ? none : (shape == MarkShape::Dot ? dot : ring);
+    const bool isGroup = node.kind != NodeKind::Register && place.field < 0;
+    return !isChanged ? none : isGroup ? ring : dot;
 }
 
 } // namespace
 
-DeviceTreeModel::DeviceTreeModel(const DeviceState& state, QObject* parent)
-    : QAbstractItemModel(parent)
-    , m_state(state)
+DeviceTreeModel::DeviceTreeModel(DeviceEdits& edits, QObject* parent)
+    : nsUI::TrModel(parent)
+    , m_edits(edits)
+    , m_bitsIcon(lineIcon(LineIcon::Bits))
 {
     countAll();
-    connect(&m_state, &DeviceState::registerChanged, this, &DeviceTreeModel::updateRegister);
-    connect(&m_state, &DeviceState::allChanged, this, &DeviceTreeModel::updateAll);
+    connect(&state(), &DeviceState::registerChanged, this, &DeviceTreeModel::updateRegister);
+    connect(&state(), &DeviceState::allChanged, this, &DeviceTreeModel::updateAll);
 }
 
 const Device& DeviceTreeModel::device() const
 {
-    return m_state.device();
+    return m_edits.device();
 }
 
-int DeviceTreeModel::nodeOf(const QModelIndex& index)
+const DeviceState& DeviceTreeModel::state() const
 {
-    return index.isValid() ? static_cast<int>(index.internalId()) : Device::kRootNode;
+    return m_edits.state();
 }
 
-QModelIndex DeviceTreeModel::indexOfNode(int node, int column) const
+// --- Places ---------------------------------------------------------------------------------------------------------
+
+TreePlace DeviceTreeModel::placeOf(const QModelIndex& index)
 {
-    if (node == Device::kRootNode) {
-        return QModelIndex();
+    if (!index.isValid()) {
+        return {};
     }
-    return createIndex(device().node(node).row, column, static_cast<quintptr>(node));
+    const quintptr id = index.internalId();
+    return {static_cast<int>(id & ~kFieldFlag), (id & kFieldFlag) != 0 ? index.row() : -1};
+}
+
+QModelIndex DeviceTreeModel::indexOf(const TreePlace& place, int column) const
+{
+    const auto node = static_cast<quintptr>(place.node);
+    if (place.field >= 0) {
+        return createIndex(place.field, column, node | kFieldFlag);
+    }
+    return place.node == Device::kRootNode ? QModelIndex() : createIndex(device().node(place.node).row, column, node);
+}
+
+PathTarget DeviceTreeModel::targetOf(const TreePlace& place) const
+{
+    return {device().node(place.node).registerIndex, place.field};
+}
+
+QString DeviceTreeModel::pathOf(const TreePlace& place) const
+{
+    const QString path = device().nodePath(place.node);
+    return place.field < 0 ? path : path + QLatin1Char('.') + fieldText(targetOf(place), NameColumn);
 }
 
 QModelIndex DeviceTreeModel::index(int row, int column, const QModelIndex& parent) const
@@ -61,17 +87,29 @@ QModelIndex DeviceTreeModel::index(int row, int column, const QModelIndex& paren
     if (!hasIndex(row, column, parent)) {
         return QModelIndex();
     }
-    return createIndex(row, column, static_cast<quintptr>(device().node(nodeOf(parent)).children.at(row)));
+    const Node& node = device().node(placeOf(parent).node);
+    return node.kind == NodeKind::Register ? indexOf({placeOf(parent).node, row}, column)
+                                           : indexOf({node.children.at(row)}, column);
 }
 
 QModelIndex DeviceTreeModel::parent(const QModelIndex& child) const
 {
-    return child.isValid() ? indexOfNode(device().node(nodeOf(child)).parent) : QModelIndex();
+    if (!child.isValid()) {
+        return QModelIndex();
+    }
+    const TreePlace place = placeOf(child);
+    return indexOf({place.field >= 0 ? place.node : device().node(place.node).parent});
 }
 
 int DeviceTreeModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.column() > NameColumn ? 0 : device().node(nodeOf(parent)).children.size();
+    const TreePlace place = placeOf(parent);
+    if (parent.column() > NameColumn || place.field >= 0) {
+        return 0;
+    }
+    const Node& node = device().node(place.node);
+    return node.kind == NodeKind::Register ? device().registerAt(node.registerIndex).fields.size()
+                                           : node.children.size();
 }
 
 int DeviceTreeModel::columnCount(const QModelIndex&) const
@@ -79,66 +117,238 @@ int DeviceTreeModel::columnCount(const QModelIndex&) const
     return ColumnCount;
 }
 
+// --- Cells ----------------------------------------------------------------------------------------------------------
+
 QVariant DeviceTreeModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid()) {
         return QVariant();
     }
-    const int nodeIndex = nodeOf(index);
-    const Node& node = device().node(nodeIndex);
-    const int changed = changedCount(nodeIndex);
+    const TreePlace place = placeOf(index);
+    const PathTarget target = targetOf(place);
+    switch (role) {
+    case ChangedRole:
+        return isChanged(place);
+    case Qt::FontRole:
+        return font(place, index.column());
+    case Qt::SizeHintRole:
+        return index.column() == NameColumn && m_rowSize.isValid() ? QVariant(m_rowSize) : QVariant();
+    default:
+        break;
+    }
+    if (index.column() == NameColumn) {
+        return nameData(place, role);
+    }
+    if (index.column() == ValueColumn && target.isValid()) {
+        return valueData(index, target, role);
+    }
+    if (index.column() == BytesColumn) {
+        return hasBytes(place) ? bytesData(index, target.registerIndex, role) : QVariant();
+    }
+    if (role == Qt::DisplayRole || role == Qt::EditRole) {
+        return plainText(place, index.column());
+    }
+    return index.column() == DescriptionColumn && role == Qt::ToolTipRole ? description(place) : QVariant();
+}
+
+QVariant DeviceTreeModel::nameData(const TreePlace& place, int role) const
+{
     switch (role) {
     case Qt::DisplayRole:
-        return text(node, changed, index.column());
+    case Qt::EditRole:
+        return plainText(place, NameColumn);
     case Qt::DecorationRole:
-        return index.column() == NameColumn ? QVariant(sharedMarkIcon(markShape(node, changed))) : QVariant();
-    case Qt::FontRole: {
-        const bool isNumber =
-            index.column() != NameColumn && (index.column() == AddressColumn || node.kind == NodeKind::Register);
-        QFont font = isNumber ? m_numberFont : QFont();
-        font.setBold(changed > 0 && node.kind == NodeKind::Register && index.column() != AddressColumn);
-        return font;
+        return markOf(device().node(place.node), place, isChanged(place));
+    case Qt::AccessibleTextRole: {
+        const QString name = plainText(place, NameColumn);
+        return isChanged(place) ? tr("%1, changed").arg(name) : name;
     }
-    case Qt::ToolTipRole:
-        return toolTip(nodeIndex);
-    case Qt::AccessibleTextRole:
-        return index.column() == NameColumn && changed > 0 ? tr("%1, changed").arg(node.name)
-                                                           : text(node, changed, index.column());
-    case ChangedRole:
-        return changed > 0;
+    case Qt::ToolTipRole: {
+        const QString text = description(place);
+        return text.isEmpty() ? pathOf(place) : pathOf(place) + QLatin1Char('\n') + text;
+    }
     default:
         return QVariant();
     }
 }
 
-QString DeviceTreeModel::text(const Node& node, int changed, int column) const
+QVariant DeviceTreeModel::valueData(const QModelIndex& index, const PathTarget& target, int role) const
 {
+    const ValueCell cell(state(), target, m_base);
+    switch (role) {
+    case Qt::DisplayRole:
+        return cell.text();
+    case Qt::EditRole:
+        return cell.value();
+    case Qt::ToolTipRole:
+        return cell.toolTip();
+    default:
+        break;
+    }
+    const QVariant setting = cell.setting(role);
+    return setting.isValid() ? setting : TrModel::data(index, role);
+}
+
+QVariant DeviceTreeModel::bytesData(const QModelIndex& index, int registerIndex, int role) const
+{
+    const Register& reg = device().registerAt(registerIndex);
+    switch (role) {
+    case nsUI::e_Role_ItemType:
+        return int(nsUI::e_Item_ByteArray);
+    case nsUI::e_Role_BitDescriptions:
+        return QVariant::fromValue(bitDescriptions(reg));
+    case Qt::EditRole:
+        return registerBytes(reg, state().value(registerIndex));
+    case Qt::DisplayRole:
+        return QVariant(); // the icon alone; the bytes would only repeat the value
+    case Qt::DecorationRole:
+        return m_bitsIcon;
+    case Qt::ToolTipRole:
+        return tr("%1\nClick to edit bit by bit").arg(TrModel::data(index, role).toString());
+    case Qt::AccessibleTextRole:
+        return tr("bits of %1").arg(reg.name);
+    default:
+        return TrModel::data(index, role);
+    }
+}
+
+QString DeviceTreeModel::plainText(const TreePlace& place, int column) const
+{
+    const PathTarget target = targetOf(place);
+    if (target.isField()) {
+        return fieldText(target, column);
+    }
+    return target.isValid() ? registerText(target, column) : groupText(place.node, column);
+}
+
+QString DeviceTreeModel::groupText(int nodeIndex, int column) const
+{
+    const Node& node = device().node(nodeIndex);
     switch (column) {
     case NameColumn:
         return node.name;
     case AddressColumn:
         return hexNumber(node.address, kAddressDigits);
-    case ValueColumn:
-        if (node.kind == NodeKind::Register) {
-            return hexNumber(m_state.value(node.registerIndex),
-                             hexDigits(device().registerAt(node.registerIndex).size));
-        }
+    case ValueColumn: {
+        const int changed = changedCount(nodeIndex);
         return changed > 0 ? tr("%n changed", nullptr, changed) : QString();
+    }
+    case DescriptionColumn:
+        return node.description.simplified();
     default:
         return QString();
     }
 }
 
-QString DeviceTreeModel::toolTip(int node) const
+QString DeviceTreeModel::registerText(const PathTarget& target, int column) const
 {
-    const Node& shown = device().node(node);
-    const QString path = device().nodePath(node);
-    return shown.description.isEmpty() ? path : path + QLatin1Char('\n') + shown.description;
+    const Register& reg = device().registerAt(target.registerIndex);
+    switch (column) {
+    case NameColumn:
+        return reg.name;
+    case AddressColumn:
+        return hexNumber(reg.address, kAddressDigits);
+    case ResetColumn:
+        return ValueCell(state(), target, m_base).resetText();
+    case AccessColumn:
+        return accessText(reg.access);
+    case DescriptionColumn:
+        return reg.description.simplified();
+    default:
+        return QString();
+    }
+}
+
+QString DeviceTreeModel::fieldText(const PathTarget& target, int column) const
+{
+    const Field& field = device().registerAt(target.registerIndex).fields.at(target.fieldIndex);
+    switch (column) {
+    case NameColumn:
+        return field.name;
+    case AddressColumn:
+        return bitRangeText(field.msb(), field.lsb);
+    case ResetColumn:
+        return ValueCell(state(), target, m_base).resetText();
+    case AccessColumn:
+        return accessText(field.access);
+    case DescriptionColumn:
+        return field.description.simplified();
+    default:
+        return QString();
+    }
+}
+
+QString DeviceTreeModel::description(const TreePlace& place) const
+{
+    const PathTarget target = targetOf(place);
+    return target.isField() ? device().registerAt(target.registerIndex).fields.at(target.fieldIndex).description
+                            : device().node(place.node).description;
+}
+
+QVariant DeviceTreeModel::font(const TreePlace& place, int column) const
+{
+    const bool isNumber =
+        column == AddressColumn || column == ResetColumn || (column == ValueColumn && targetOf(place).isValid());
+    const bool isBold =
+        (column == NameColumn || column == ValueColumn) && targetOf(place).isValid() && isChanged(place);
+    if (!isNumber && !isBold) {
+        return QVariant();
+    }
+    QFont font = isNumber ? m_numberFont : QFont();
+    font.setBold(isBold);
+    return font;
+}
+
+bool DeviceTreeModel::isChanged(const TreePlace& place) const
+{
+    return place.field >= 0 ? ValueCell(state(), targetOf(place), m_base).isModified() : changedCount(place.node) > 0;
+}
+
+bool DeviceTreeModel::hasBytes(const TreePlace& place) const
+{
+    const PathTarget target = targetOf(place);
+    return target.isValid() && !target.isField() && isWritable(device().registerAt(target.registerIndex).access);
+}
+
+Qt::ItemFlags DeviceTreeModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid()) {
+        return Qt::NoItemFlags;
+    }
+    const PathTarget target = targetOf(placeOf(index));
+    const bool isEdited =
+        index.column() == ValueColumn && target.isValid() && ValueCell(state(), target, m_base).isWritable();
+    const Qt::ItemFlags flags = TrModel::flags(index);
+    return isEdited ? flags : flags & ~(Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
+}
+
+bool DeviceTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (!index.isValid() || role != Qt::EditRole) {
+        return TrModel::setData(index, value, role);
+    }
+    const TreePlace place = placeOf(index);
+    const PathTarget target = targetOf(place);
+    if (!target.isValid()) {
+        return false;
+    }
+    const ValueCell cell(state(), target, m_base);
+    std::optional<quint64> number;
+    if (index.column() == ValueColumn && cell.isWritable()) {
+        number = cell.toNumber(value);
+    } else if (index.column() == BytesColumn && hasBytes(place)) {
+        number = valueOfBytes(value.toByteArray());
+    }
+    if (number) {
+        m_edits.endGesture();
+        m_edits.set(target, *number);
+    }
+    return number.has_value();
 }
 
 QVariant DeviceTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+    if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
         return QVariant();
     }
     switch (section) {
@@ -148,9 +358,39 @@ QVariant DeviceTreeModel::headerData(int section, Qt::Orientation orientation, i
         return tr("Address");
     case ValueColumn:
         return tr("Value");
+    case BytesColumn:
+        return tr("Bits");
+    case ResetColumn:
+        return tr("Reset");
+    case AccessColumn:
+        return tr("Access");
+    case DescriptionColumn:
+        return tr("Description");
     default:
         return QVariant();
     }
+}
+
+// --- Changes --------------------------------------------------------------------------------------------------------
+
+void DeviceTreeModel::reread()
+{
+    beginResetModel();
+    endResetModel();
+}
+
+void DeviceTreeModel::setBase(NumberBase base)
+{
+    if (base != m_base) {
+        m_base = base;
+        updateAll();
+    }
+}
+
+void DeviceTreeModel::setLook(const QFont& numberFont, int rowHeight)
+{
+    m_numberFont = numberFont;
+    m_rowSize = QSize(0, rowHeight);
 }
 
 void DeviceTreeModel::countAll()
@@ -158,7 +398,7 @@ void DeviceTreeModel::countAll()
     m_changedBelow.fill(0, device().nodes().size());
     m_changed.fill(false, device().registerCount());
     for (int i = 0; i < device().registerCount(); ++i) {
-        if (m_state.isModified(i)) {
+        if (state().isModified(i)) {
             addChange(i, 1);
         }
     }
@@ -172,18 +412,25 @@ void DeviceTreeModel::addChange(int registerIndex, int difference)
     }
 }
 
+void DeviceTreeModel::tellChange(int node)
+{
+    Q_EMIT dataChanged(indexOf({node}), indexOf({node}, ColumnCount - 1));
+}
+
 void DeviceTreeModel::updateRegister(int registerIndex)
 {
-    const int node = device().registerAt(registerIndex).node;
-    const bool changed = m_state.isModified(registerIndex);
-    if (changed == m_changed.at(registerIndex)) {
-        const QModelIndex value = indexOfNode(node, ValueColumn);
-        Q_EMIT dataChanged(value, value, {Qt::DisplayRole, Qt::AccessibleTextRole});
-        return;
+    const Register& reg = device().registerAt(registerIndex);
+    const bool isChanged = state().isModified(registerIndex);
+    if (isChanged != m_changed.at(registerIndex)) {
+        addChange(registerIndex, isChanged ? 1 : -1);
+        for (int above = device().node(reg.node).parent; above != Device::kRootNode;
+             above = device().node(above).parent) {
+            tellChange(above);
+        }
     }
-    addChange(registerIndex, changed ? 1 : -1);
-    for (int shown = node; shown != Device::kRootNode; shown = device().node(shown).parent) {
-        Q_EMIT dataChanged(indexOfNode(shown), indexOfNode(shown, ValueColumn));
+    tellChange(reg.node);
+    if (!reg.fields.isEmpty()) {
+        Q_EMIT dataChanged(indexOf({reg.node, 0}), indexOf({reg.node, reg.fields.size() - 1}, ColumnCount - 1));
     }
 }
 
@@ -191,10 +438,10 @@ void DeviceTreeModel::updateAll()
 {
     countAll();
     for (int node = 0; node < device().nodes().size(); ++node) {
-        const int childCount = device().node(node).children.size();
-        if (childCount > 0) {
-            Q_EMIT dataChanged(indexOfNode(device().node(node).children.first()),
-                               indexOfNode(device().node(node).children.last(), ValueColumn));
+        const QModelIndex parent = indexOf({node});
+        const int rows = rowCount(parent);
+        if (rows > 0) {
+            Q_EMIT dataChanged(index(0, 0, parent), index(rows - 1, ColumnCount - 1, parent));
         }
     }
 }

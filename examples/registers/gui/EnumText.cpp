@@ -87,7 +87,12 @@ quint64 EnumText::chosen(const Choice& choice, quint64 present) const
 
 QString EnumText::text(quint64 value, NumberBase base) const
 {
-    const EnumValue* entry = m_enumeration->find(value);
+    return text(*m_enumeration, value, base);
+}
+
+QString EnumText::text(const Enumeration& enumeration, quint64 value, NumberBase base)
+{
+    const EnumValue* entry = enumeration.find(value);
     return entry ? nameWithNote(entry->name, numberText(value, base))
                  : nameWithNote(numberText(value, base), notNamed());
 }

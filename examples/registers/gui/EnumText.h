@@ -38,6 +38,7 @@ public:
     quint64 chosen(const Choice& choice, quint64 present) const;
 
     QString text(quint64 value, NumberBase base) const;
+    static QString text(const Enumeration& enumeration, quint64 value, NumberBase base);
     /// What the largest value reads like without a name.
     QString widestText(NumberBase base) const;
     /// How @p choice reads in a list.

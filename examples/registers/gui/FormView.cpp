@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gui/FormView.h"
 
-#include "device/DeviceState.h"
+#include "gui/DeviceEdits.h"
 #include "gui/FieldTable.h"
 #include "gui/GroupPage.h"
 #include "gui/RegisterForm.h"
@@ -20,21 +20,21 @@ FormView::FormView(QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
 }
 
-void FormView::showNode(DeviceState& state, int node)
+void FormView::showNode(DeviceEdits& edits, int node)
 {
     m_form = nullptr;
-    const Node& shown = state.device().node(node);
+    const Node& shown = edits.device().node(node);
     if (shown.kind == NodeKind::Register) {
-        m_form = new RegisterForm(state, shown.registerIndex, m_fieldBase);
+        m_form = new RegisterForm(edits, shown.registerIndex, m_fieldBase);
         connect(m_form, &RegisterForm::fieldBasePicked, this, &FormView::setFieldBase);
         setWidget(m_form);
     } else {
-        setWidget(new GroupPage(state, node));
+        setWidget(new GroupPage(edits.state(), node));
     }
     verticalScrollBar()->setValue(0);
 }
 
-void FormView::showField(int fieldIndex)
+void FormView::markField(int fieldIndex)
 {
     FieldTable* fields = m_form ? m_form->fields() : nullptr;
     if (!fields) {
@@ -43,9 +43,17 @@ void FormView::showField(int fieldIndex)
     fields->setMarkedRow(fieldIndex);
     m_form->ensurePolished();
     m_form->layout()->activate();
-    if (ValueEditor* editor = fields->editor(fieldIndex)) {
-        editor->setFocus(Qt::OtherFocusReason);
+    if (ValueEditor* editor = fieldIndex < 0 ? nullptr : fields->editor(fieldIndex)) {
         ensureWidgetVisible(editor);
+    }
+}
+
+void FormView::showField(int fieldIndex)
+{
+    markField(fieldIndex);
+    FieldTable* fields = m_form ? m_form->fields() : nullptr;
+    if (ValueEditor* editor = fields ? fields->editor(fieldIndex) : nullptr) {
+        editor->setFocus(Qt::OtherFocusReason);
     }
 }
 

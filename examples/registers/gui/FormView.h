@@ -7,7 +7,7 @@
 
 namespace registers {
 
-class DeviceState;
+class DeviceEdits;
 class RegisterForm;
 
 /// Shows the form of one register, or the page of one peripheral or cluster, and scrolls it.
@@ -18,9 +18,11 @@ class FormView : public QScrollArea
 public:
     explicit FormView(QWidget* parent = nullptr);
 
-    /// Shows a node of @p state, which must live as long as it is shown.
-    void showNode(DeviceState& state, int node);
-    /// Marks a field of the shown register, scrolls to it and gives it the focus.
+    /// Shows a node of the device; @p edits must live as long as it is shown.
+    void showNode(DeviceEdits& edits, int node);
+    /// Marks a field of the shown register and scrolls to it; -1 marks none.
+    void markField(int fieldIndex);
+    /// Marks a field as markField() does, and gives it the focus.
     void showField(int fieldIndex);
     /// Shows nothing.
     void clear();

@@ -7,6 +7,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTransform>
 
 namespace registers {
 
@@ -45,6 +46,68 @@ QPainterPath exportPath()
     path.lineTo(4, 20);
     path.lineTo(20, 20);
     path.lineTo(20, 15);
+    return path;
+}
+
+/// exportPath() with the arrow turned round.
+QPainterPath loadPath()
+{
+    QPainterPath path;
+    path.moveTo(12, 15);
+    path.lineTo(12, 3.5);
+    path.moveTo(7.5, 8);
+    path.lineTo(12, 3.5);
+    path.lineTo(16.5, 8);
+    path.moveTo(4, 15);
+    path.lineTo(4, 20);
+    path.lineTo(20, 20);
+    path.lineTo(20, 15);
+    return path;
+}
+
+QPainterPath undoPath()
+{
+    QPainterPath path;
+    path.moveTo(8.5, 4.5);
+    path.lineTo(4, 9);
+    path.lineTo(8.5, 13.5);
+    path.moveTo(4, 9);
+    path.lineTo(14, 9);
+    path.arcTo(QRectF(9, 9, 10, 10), 90, -180);
+    path.lineTo(9, 19);
+    return path;
+}
+
+QPainterPath redoPath()
+{
+    return QTransform(-1, 0, 0, 1, kSide, 0).map(undoPath());
+}
+
+/// A byte as a row of cells, some of them set.
+QPainterPath bitsPath()
+{
+    QPainterPath path;
+    path.addRect(2, 8, 20, 8);
+    for (const double x : {7.0, 12.0, 17.0}) {
+        path.moveTo(x, 8);
+        path.lineTo(x, 16);
+    }
+    for (const double x : {4.5, 14.5}) {
+        path.moveTo(x, 11);
+        path.lineTo(x, 13);
+    }
+    return path;
+}
+
+/// Rows, one of them with a dot.
+QPainterPath changesPath()
+{
+    QPainterPath path;
+    for (const double y : {6.0, 12.0, 18.0}) {
+        path.moveTo(10, y);
+        path.lineTo(20, y);
+    }
+    path.addEllipse(QPointF(5, 12), 1.6, 1.6);
     return path;
 }
 
@@ -87,12 +150,22 @@ QPainterPath iconPath(LineIcon icon)
     switch (icon) {
     case LineIcon::Open:
         return openPath();
+    case LineIcon::Load:
+        return loadPath();
     case LineIcon::Export:
         return exportPath();
+    case LineIcon::Undo:
+        return undoPath();
+    case LineIcon::Redo:
+        return redoPath();
     case LineIcon::Reset:
         return resetPath();
     case LineIcon::ResetAll:
         return resetAllPath();
+    case LineIcon::Bits:
+        return bitsPath();
+    case LineIcon::Changes:
+        return changesPath();
     case LineIcon::Search:
         break;
     }
@@ -111,7 +184,9 @@ public:
     {
         const QPalette palette = QApplication::palette();
         const double share = mode == QIcon::Disabled ? kDisabledShare : 0.85;
-        const QColor color = blended(palette.color(QPalette::WindowText), palette.color(QPalette::Window), share);
+        const QColor color = mode == QIcon::Selected
+                                 ? palette.color(QPalette::HighlightedText)
+                                 : blended(palette.color(QPalette::WindowText), palette.color(QPalette::Window), share);
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(rect.topLeft());

@@ -6,7 +6,7 @@
 namespace registers {
 
 /// The application's icons: strokes in the palette's text colour, drawn anew for every size.
-enum class LineIcon { Open, Export, Reset, ResetAll, Search };
+enum class LineIcon { Open, Load, Export, Undo, Redo, Reset, ResetAll, Search, Bits, Changes };
 
 QIcon lineIcon(LineIcon icon);
 

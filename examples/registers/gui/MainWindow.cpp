@@ -2,6 +2,8 @@
 #include "gui/MainWindow.h"
 
 #include "device/DeviceExport.h"
+#include "device/DeviceImport.h"
+#include "gui/DeviceEdits.h"
 #include "gui/DeviceLoader.h"
 #include "gui/DevicePanel.h"
 #include "gui/FormView.h"
@@ -9,12 +11,14 @@
 #include "gui/LoadBar.h"
 #include "gui/RegisterForm.h"
 #include "gui/Settings.h"
+#include "gui/UnplacedDialog.h"
 
 #include <QActionGroup>
+#include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -23,14 +27,18 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QTreeView>
+#include <QUndoGroup>
 
+#include <algorithm>
 #include <utility>
 
 namespace registers {
 
 namespace {
 
-constexpr QSize kDefaultSize(1180, 760);
+constexpr QSize kDefaultSize(1440, 820);
+constexpr int kFormWidth = 650;
 constexpr int kToolIcon = 20;
 constexpr int kMessageMs = 6000;
 
@@ -71,13 +79,14 @@ QString droppedFile(const QMimeData* data)
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
+    , m_undoGroup(new QUndoGroup(this))
     , m_panel(new DevicePanel)
     , m_view(new FormView)
     , m_splitter(new QSplitter(this))
     , m_loader(new DeviceLoader(this))
     , m_loadBar(new LoadBar)
     , m_changedLabel(new QLabel)
-    , m_fieldBases(new QActionGroup(this))
+    , m_bases(new QActionGroup(this))
 {
     m_splitter->addWidget(m_panel);
     m_splitter->addWidget(m_view);
@@ -113,26 +122,54 @@ void MainWindow::initActions()
 {
     addAction(m_open, tr("&Open…"), QKeySequence::Open, "open")->setIcon(lineIcon(LineIcon::Open));
     addAction(m_openSample, tr("Open &Sample"), QKeySequence(), "openSample");
-    addAction(m_export, tr("&Export JSON…"), QKeySequence(tr("Ctrl+E")), "export")->setIcon(lineIcon(LineIcon::Export));
+    addAction(m_load, tr("&Load Values…"), QKeySequence(tr("Ctrl+L")), "load")->setIcon(lineIcon(LineIcon::Load));
+    addAction(m_export, tr("&Save Values…"), QKeySequence::Save, "export")->setIcon(lineIcon(LineIcon::Export));
+    m_load->setToolTip(tr("Set the registers to the values of a JSON file that was saved here"));
+    m_export->setToolTip(tr("Save the values of all registers and fields as a JSON file"));
     addAction(m_quit, tr("&Quit"), QKeySequence::Quit, "quit");
+
+    m_undo = m_undoGroup->createUndoAction(this, tr("&Undo"));
+    m_redo = m_undoGroup->createRedoAction(this, tr("&Redo"));
+    m_undo->setShortcut(QKeySequence::Undo);
+    m_redo->setShortcut(QKeySequence::Redo);
+    m_undo->setObjectName(QStringLiteral("undo"));
+    m_redo->setObjectName(QStringLiteral("redo"));
+    m_undo->setIcon(lineIcon(LineIcon::Undo));
+    m_redo->setIcon(lineIcon(LineIcon::Redo));
+    m_undo->setIconText(tr("Undo"));
+    m_redo->setIconText(tr("Redo"));
+
+    addAction(m_copy, tr("&Copy Rows"), QKeySequence::Copy, "copy");
     addAction(m_find, tr("&Find"), QKeySequence::Find, "find");
+    addAction(m_findNext, tr("Find &Next"), QKeySequence::FindNext, "findNext");
+    addAction(m_editBits, tr("Edit &Bits…"), QKeySequence(tr("Ctrl+B")), "editBits")->setIcon(lineIcon(LineIcon::Bits));
     addAction(m_resetRegister, tr("&Reset Register"), QKeySequence(tr("Ctrl+R")), "resetCurrent")
         ->setIcon(lineIcon(LineIcon::Reset));
     addAction(m_resetAll, tr("Reset &All"), QKeySequence(tr("Ctrl+Shift+R")), "resetAll")
         ->setIcon(lineIcon(LineIcon::ResetAll));
 
+    addAction(m_changesOnly, tr("&Changes Only"), QKeySequence(tr("Ctrl+D")), "changesOnly")
+        ->setIcon(lineIcon(LineIcon::Changes));
+    m_changesOnly->setCheckable(true);
+    addAction(m_expandAll, tr("&Expand All"), QKeySequence(tr("Ctrl+Shift+E")), "expandAll");
+    addAction(m_collapseAll, tr("C&ollapse All"), QKeySequence(tr("Ctrl+Shift+W")), "collapseAll");
+    initBases();
+}
+
+void MainWindow::initBases()
+{
     const struct
     {
         NumberBase base;
         QString text;
         QString shortcut;
     } bases[] = {
-        {NumberBase::Decimal, tr("Fields in &Decimal"), tr("Ctrl+1")},
-        {NumberBase::Hexadecimal, tr("Fields in &Hexadecimal"), tr("Ctrl+2")},
-        {NumberBase::Binary, tr("Fields in &Binary"), tr("Ctrl+3")},
+        {NumberBase::Decimal, tr("Values in &Decimal"), tr("Ctrl+1")},
+        {NumberBase::Hexadecimal, tr("Values in &Hexadecimal"), tr("Ctrl+2")},
+        {NumberBase::Binary, tr("Values in &Binary"), tr("Ctrl+3")},
     };
     for (const auto& entry : bases) {
-        QAction* action = m_fieldBases->addAction(entry.text);
+        QAction* action = m_bases->addAction(entry.text);
         action->setCheckable(true);
         action->setChecked(entry.base == m_view->fieldBase());
         action->setShortcut(QKeySequence(entry.shortcut));
@@ -145,15 +182,25 @@ void MainWindow::initMenus()
     QMenu* file = menuBar()->addMenu(tr("&File"));
     file->addActions({m_open, m_openSample});
     file->addSeparator();
-    file->addAction(m_export);
+    file->addActions({m_load, m_export});
     file->addSeparator();
     file->addAction(m_quit);
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-    edit->addAction(m_find);
+    edit->addActions({m_undo, m_redo});
     edit->addSeparator();
-    edit->addActions({m_resetRegister, m_resetAll});
+    edit->addAction(m_copy);
+    edit->addSeparator();
+    edit->addActions({m_find, m_findNext});
+    edit->addSeparator();
+    edit->addActions({m_editBits, m_resetRegister, m_resetAll});
     QMenu* view = menuBar()->addMenu(tr("&View"));
-    view->addActions(m_fieldBases->actions());
+    view->addActions(m_bases->actions());
+    view->addSeparator();
+    view->addActions({m_changesOnly, m_expandAll, m_collapseAll});
+
+    // The context menu of the tree. Copying is the tree's own affair: text boxes copy what is selected in them.
+    m_copy->setShortcutContext(Qt::WidgetShortcut);
+    m_panel->view()->addActions({m_editBits, m_resetRegister, m_copy, m_expandAll, m_collapseAll});
 }
 
 void MainWindow::initToolBar()
@@ -164,9 +211,13 @@ void MainWindow::initToolBar()
     bar->setIconSize(QSize(kToolIcon, kToolIcon));
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    bar->addActions({m_open, m_export});
+    bar->addActions({m_open, m_load, m_export});
     bar->addSeparator();
-    bar->addActions({m_resetRegister, m_resetAll});
+    bar->addActions({m_undo, m_redo});
+    bar->addSeparator();
+    bar->addActions({m_editBits, m_resetRegister, m_resetAll});
+    bar->addSeparator();
+    bar->addAction(m_changesOnly);
 }
 
 void MainWindow::initStatusBar()
@@ -181,20 +232,34 @@ void MainWindow::initConnect()
 {
     connect(m_open, &QAction::triggered, this, &MainWindow::openWithDialog);
     connect(m_openSample, &QAction::triggered, this, &MainWindow::openSample);
+    connect(m_load, &QAction::triggered, this, &MainWindow::loadWithDialog);
     connect(m_export, &QAction::triggered, this, &MainWindow::exportWithDialog);
     connect(m_quit, &QAction::triggered, this, &MainWindow::close);
+    connect(m_copy, &QAction::triggered, this, &MainWindow::copySelection);
     connect(m_find, &QAction::triggered, m_panel, &DevicePanel::focusFilter);
+    connect(m_findNext, &QAction::triggered, m_panel, &DevicePanel::findNext);
+    connect(m_editBits, &QAction::triggered, m_panel, &DevicePanel::editBits);
     connect(m_resetRegister, &QAction::triggered, this, &MainWindow::resetRegister);
     connect(m_resetAll, &QAction::triggered, this, &MainWindow::resetAll);
-    connect(m_fieldBases, &QActionGroup::triggered, this,
-            [this](QAction* action) { m_view->setFieldBase(static_cast<NumberBase>(action->data().toInt())); });
-    connect(m_view, &FormView::fieldBaseChanged, this, [this](NumberBase base) {
-        for (QAction* action : m_fieldBases->actions()) {
-            action->setChecked(action->data().toInt() == static_cast<int>(base));
+    connect(m_changesOnly, &QAction::triggered, this, &MainWindow::setChangesOnly);
+    connect(m_expandAll, &QAction::triggered, m_panel->view(), &QTreeView::expandAll);
+    connect(m_collapseAll, &QAction::triggered, m_panel->view(), &QTreeView::collapseAll);
+    connect(m_bases, &QActionGroup::triggered, this,
+            [this](QAction* action) { setBase(static_cast<NumberBase>(action->data().toInt())); });
+    connect(m_view, &FormView::fieldBaseChanged, this, &MainWindow::setBase);
+    connect(m_undoGroup, &QUndoGroup::cleanChanged, this, [this](bool isClean) {
+        if (isClean) {
+            setWindowModified(false);
+        }
+    });
+    // Who goes elsewhere has done with what was being typed.
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (m_edits) {
+            m_edits->endGesture();
         }
     });
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterIsPlaced = true; });
-    connect(m_panel, &DevicePanel::currentNodeChanged, this, &MainWindow::showNode);
+    connect(m_panel, &DevicePanel::currentPlaceChanged, this, &MainWindow::showPlace);
     connect(m_loader, &DeviceLoader::started, this, &MainWindow::startLoading);
     connect(m_loader, &DeviceLoader::progressed, m_loadBar, &LoadBar::setProgress);
     connect(m_loader, &DeviceLoader::finished, this, &MainWindow::finishLoading);
@@ -205,18 +270,26 @@ void MainWindow::setSession(Session session)
 {
     m_view->clear();
     std::swap(m_session, session); // the old one lives until the tree has let go of it
-    m_panel->setState(*m_session.state);
+    auto edits = std::make_unique<DeviceEdits>(*m_session.state);
+    m_panel->setEdits(*edits);
+    m_edits.swap(edits);
+    m_undoGroup->addStack(m_edits->stack());
+    m_undoGroup->setActiveStack(m_edits->stack());
+    m_changesOnly->setChecked(false);
     if (!m_splitterIsPlaced) {
-        m_splitter->setSizes({m_panel->preferredWidth(), width() - m_panel->preferredWidth()});
+        const int treeWidth = std::min(m_panel->preferredWidth(), width() - kFormWidth);
+        m_splitter->setSizes({treeWidth, width() - treeWidth});
     }
     m_fileName = m_session.device->sourceFile;
     connect(m_session.state.get(), &DeviceState::registerChanged, this, &MainWindow::markEdited);
     connect(m_session.state.get(), &DeviceState::allChanged, this, &MainWindow::markEdited);
+    connect(m_edits.get(), &DeviceEdits::stepped, this, &MainWindow::showStep);
     setWindowModified(false);
     updateTitle();
     updateState();
     if (m_session.selection.isValid()) {
         select(m_session.selection);
+        m_panel->expandCurrent();
     } else if (m_session.device->registerCount() > 0) {
         select({0, -1});
     }
@@ -224,16 +297,51 @@ void MainWindow::setSession(Session session)
 
 void MainWindow::select(const PathTarget& target)
 {
-    m_panel->setCurrentNode(m_session.device->registerAt(target.registerIndex).node);
+    m_panel->setCurrentPlace({m_session.device->registerAt(target.registerIndex).node, target.fieldIndex});
     if (target.isField()) {
         m_view->showField(target.fieldIndex);
     }
 }
 
-void MainWindow::showNode(int node)
+void MainWindow::showPlace(const TreePlace& place)
 {
-    m_view->showNode(*m_session.state, node);
+    const int registerIndex = m_session.device->node(place.node).registerIndex;
+    if (registerIndex < 0 || !m_view->form() || m_view->form()->registerIndex() != registerIndex) {
+        m_view->showNode(*m_edits, place.node);
+    }
+    m_view->markField(place.field);
     updateState();
+}
+
+/// What an undone edit has changed is shown, unless it is already.
+void MainWindow::showStep(const PathTarget& target)
+{
+    if (target.isValid() && (!m_view->form() || m_view->form()->registerIndex() != target.registerIndex)) {
+        m_panel->setCurrentPlace({m_session.device->registerAt(target.registerIndex).node, target.fieldIndex});
+        m_changesOnly->setChecked(m_panel->changesOnly());
+    }
+}
+
+void MainWindow::setBase(NumberBase base)
+{
+    m_view->setFieldBase(base);
+    m_panel->setBase(base);
+    for (QAction* action : m_bases->actions()) {
+        action->setChecked(action->data().toInt() == static_cast<int>(base));
+    }
+}
+
+void MainWindow::setChangesOnly(bool changesOnly)
+{
+    m_panel->setChangesOnly(changesOnly);
+}
+
+void MainWindow::copySelection()
+{
+    const QString text = m_panel->selectedText();
+    if (!text.isEmpty()) {
+        QGuiApplication::clipboard()->setText(text);
+    }
 }
 
 bool MainWindow::openFile(const QString& fileName)
@@ -278,7 +386,7 @@ void MainWindow::openSample()
 bool MainWindow::exportWithDialog()
 {
     const QString fileName =
-        QFileDialog::getSaveFileName(this, tr("Export all registers"), m_session.device->name + QLatin1String(".json"),
+        QFileDialog::getSaveFileName(this, tr("Save values"), m_session.device->name + QLatin1String(".json"),
                                      tr("JSON files (*.json);;All files (*)"), nullptr, dialogOptions());
     if (fileName.isEmpty()) {
         return false;
@@ -288,8 +396,39 @@ bool MainWindow::exportWithDialog()
         showError(this, tr("The file cannot be written"), error);
         return false;
     }
+    m_edits->endGesture();
+    m_edits->stack()->setClean();
     setWindowModified(false);
-    statusBar()->showMessage(tr("Exported to %1").arg(fileName), kMessageMs);
+    statusBar()->showMessage(tr("Saved to %1").arg(fileName), kMessageMs);
+    return true;
+}
+
+void MainWindow::loadWithDialog()
+{
+    const QString fileName = QFileDialog::getOpenFileName(
+        this, tr("Load values"), QString(), tr("JSON files (*.json);;All files (*)"), nullptr, dialogOptions());
+    if (!fileName.isEmpty()) {
+        loadValues(fileName);
+    }
+}
+
+bool MainWindow::loadValues(const QString& fileName)
+{
+    const ImportResult result = readExportFile(fileName, *m_session.state);
+    const QString name = QFileInfo(fileName).fileName();
+    if (!result.isOk()) {
+        showError(this, tr("The values cannot be loaded"), result.error);
+        return false;
+    }
+    if (!result.unplaced.isEmpty() && !UnplacedDialog(name, result, this).ask()) {
+        return false;
+    }
+    const int before = m_edits->stack()->index();
+    m_edits->setAll(result.values, name);
+    const bool isChanged = m_edits->stack()->index() != before;
+    statusBar()->showMessage(isChanged ? tr("Loaded from %1").arg(fileName)
+                                       : tr("%1 holds the values that are already there.").arg(name),
+                             kMessageMs);
     return true;
 }
 
@@ -300,7 +439,7 @@ bool MainWindow::confirmLosingEdits()
     }
     QMessageBox box(QMessageBox::Question, tr("Edited values"), tr("The edited values of this device would be lost."),
                     QMessageBox::NoButton, this);
-    const QAbstractButton* exports = box.addButton(tr("&Export JSON…"), QMessageBox::AcceptRole);
+    const QAbstractButton* exports = box.addButton(tr("&Save Values…"), QMessageBox::AcceptRole);
     const QAbstractButton* discards = box.addButton(QMessageBox::Discard);
     box.setDefaultButton(box.addButton(QMessageBox::Cancel));
     box.exec();
@@ -313,14 +452,14 @@ bool MainWindow::confirmLosingEdits()
 void MainWindow::resetRegister()
 {
     if (RegisterForm* form = m_view->form()) {
-        m_session.state->reset(form->registerIndex());
+        m_edits->reset(form->registerIndex());
     }
 }
 
 void MainWindow::resetAll()
 {
-    if (m_session.state) {
-        m_session.state->resetAll();
+    if (m_edits) {
+        m_edits->resetAll();
     }
 }
 
@@ -338,7 +477,11 @@ void MainWindow::updateState()
     const bool idle = !m_loader->isLoading();
     m_open->setEnabled(idle);
     m_openSample->setEnabled(idle);
+    m_load->setEnabled(idle && state);
     m_export->setEnabled(idle && state);
+    m_editBits->setEnabled(idle && m_panel->registerOfBits() >= 0);
+    m_changesOnly->setEnabled(idle && state);
+    m_undoGroup->setActiveStack(idle && m_edits ? m_edits->stack() : nullptr);
     m_resetRegister->setEnabled(idle && form && state->isModified(form->registerIndex()));
     m_resetAll->setEnabled(idle && changed > 0);
     m_resetAll->setText(changed > 0 ? tr("Reset &All (%1)").arg(changed) : tr("Reset &All"));
@@ -373,7 +516,7 @@ void MainWindow::restoreLayout()
     const Settings settings;
     restoreGeometry(settings.windowGeometry());
     m_splitterIsPlaced = m_splitter->restoreState(settings.splitterState());
-    m_view->setFieldBase(settings.fieldBase());
+    setBase(settings.fieldBase());
 }
 
 void MainWindow::saveLayout()

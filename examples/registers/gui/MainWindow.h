@@ -2,22 +2,28 @@
 #pragma once
 
 #include "CommandLine.h"
+#include "gui/NumberText.h"
 
 #include <QMainWindow>
+
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QAction;
 class QActionGroup;
 class QLabel;
 class QSplitter;
+class QUndoGroup;
 QT_END_NAMESPACE
 
 namespace registers {
 
+class DeviceEdits;
 class DeviceLoader;
 class DevicePanel;
 class FormView;
 class LoadBar;
+struct TreePlace;
 
 /// The register editor: the tree of a device at the left, the form of the chosen register at the right.
 class MainWindow : public QMainWindow
@@ -35,11 +41,17 @@ public:
     /// Reads @p fileName and shows its device. When that fails, the user is told why and what is open stays.
     bool openFile(const QString& fileName);
 
+    /// Reads values that were saved and sets them, as one edit. What has no place in the device is named, and the rest
+    /// is set only if the user agrees.
+    bool loadValues(const QString& fileName);
+
     /// Takes size and place from the settings, and keeps them there when the window is closed.
     void restoreLayout();
 
     DevicePanel* devicePanel() const { return m_panel; }
     FormView* formView() const { return m_view; }
+    /// The edits of the session, which can be undone.
+    DeviceEdits& edits() const { return *m_edits; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -48,6 +60,7 @@ protected:
 
 private:
     void initActions();
+    void initBases();
     void initMenus();
     void initToolBar();
     void initStatusBar();
@@ -58,8 +71,13 @@ private:
     void openSample();
     bool exportWithDialog();
     bool confirmLosingEdits();
+    void loadWithDialog();
     void select(const PathTarget& target);
-    void showNode(int node);
+    void showPlace(const TreePlace& place);
+    void showStep(const PathTarget& target);
+    void setBase(NumberBase base);
+    void setChangesOnly(bool changesOnly);
+    void copySelection();
     void resetRegister();
     void resetAll();
     void markEdited();
@@ -70,6 +88,8 @@ private:
     void saveLayout();
 
     Session m_session;
+    std::unique_ptr<DeviceEdits> m_edits; ///< of the session's state
+    QUndoGroup* m_undoGroup;
     QString m_fileName;
     DevicePanel* m_panel;
     FormView* m_view;
@@ -79,12 +99,21 @@ private:
     QLabel* m_changedLabel;
     QAction* m_open = nullptr;
     QAction* m_openSample = nullptr;
+    QAction* m_load = nullptr;
     QAction* m_export = nullptr;
     QAction* m_quit = nullptr;
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
+    QAction* m_copy = nullptr;
     QAction* m_find = nullptr;
+    QAction* m_findNext = nullptr;
+    QAction* m_editBits = nullptr;
     QAction* m_resetRegister = nullptr;
     QAction* m_resetAll = nullptr;
-    QActionGroup* m_fieldBases;
+    QAction* m_changesOnly = nullptr;
+    QAction* m_expandAll = nullptr;
+    QAction* m_collapseAll = nullptr;
+    QActionGroup* m_bases;
     bool m_keepsLayout = false;
     bool m_splitterIsPlaced = false; ///< by the user; until then it suits the device
     bool m_closesAfterLoading = false;

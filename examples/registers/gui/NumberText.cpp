@@ -2,6 +2,7 @@
 #include "gui/NumberText.h"
 
 #include "device/Device.h"
+#include "device/DeviceExport.h"
 #include "svd/SvdNumber.h"
 
 #include <QRegularExpression>
@@ -29,6 +30,16 @@ int digitCount(int width, NumberBase base)
 QString numberText(quint64 value, NumberBase base)
 {
     return basePrefix(base) + QString::number(value, static_cast<int>(base)).toUpper();
+}
+
+QString paddedNumber(quint64 value, int width, NumberBase base)
+{
+    if (base == NumberBase::Decimal) {
+        return numberText(value, base);
+    }
+    const int digits = base == NumberBase::Binary ? width : hexDigits(width);
+    return basePrefix(base) +
+           QString::number(value, static_cast<int>(base)).toUpper().rightJustified(digits, QLatin1Char('0'));
 }
 
 std::optional<quint64> parseCopiedNumber(const QString& text)

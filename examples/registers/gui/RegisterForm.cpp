@@ -8,6 +8,7 @@
 #include "gui/BitStrip.h"
 #include "gui/CaptionLabel.h"
 #include "gui/Card.h"
+#include "gui/DeviceEdits.h"
 #include "gui/FactsLine.h"
 #include "gui/FieldTable.h"
 #include "gui/Heading.h"
@@ -36,9 +37,10 @@ QLabel* cardTitle(const QString& text)
 
 } // namespace
 
-RegisterForm::RegisterForm(DeviceState& state, int registerIndex, NumberBase fieldBase, QWidget* parent)
+RegisterForm::RegisterForm(DeviceEdits& edits, int registerIndex, NumberBase fieldBase, QWidget* parent)
     : QWidget(parent)
-    , m_state(state)
+    , m_edits(edits)
+    , m_state(edits.state())
     , m_index(registerIndex)
 {
     auto* layout = new QVBoxLayout(this);
@@ -100,8 +102,8 @@ QWidget* RegisterForm::makeValueCard()
     layout->addWidget(m_bits);
 
     connect(m_values, &ValuePanel::valueEdited, this, &RegisterForm::setRegister);
-    connect(m_bits, &BitStrip::valueEdited, this, &RegisterForm::setRegister);
-    connect(m_reset, &QPushButton::clicked, this, [this] { m_state.reset(m_index); });
+    connect(m_bits, &BitStrip::valueEdited, this, &RegisterForm::flipBit);
+    connect(m_reset, &QPushButton::clicked, this, [this] { m_edits.reset(m_index); });
     return card;
 }
 
@@ -136,12 +138,20 @@ void RegisterForm::setFieldBase(NumberBase base)
 
 void RegisterForm::setRegister(quint64 value)
 {
-    m_state.setValue(m_index, value);
+    m_edits.setRegister(m_index, value);
+}
+
+/// Each click on a bit is an edit of its own.
+void RegisterForm::flipBit(quint64 value)
+{
+    m_edits.endGesture();
+    m_edits.setRegister(m_index, value);
+    m_edits.endGesture();
 }
 
 void RegisterForm::setField(int fieldIndex, quint64 value)
 {
-    m_state.setField(m_index, fieldIndex, value);
+    m_edits.setField(m_index, fieldIndex, value);
 }
 
 void RegisterForm::showIfMine(int registerIndex)

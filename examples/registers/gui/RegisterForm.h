@@ -13,6 +13,7 @@ namespace registers {
 
 class BasePicker;
 class BitStrip;
+class DeviceEdits;
 class DeviceState;
 class FieldTable;
 class Heading;
@@ -21,15 +22,15 @@ struct Register;
 
 /// One register of a device: what it is, its value, and its fields.
 ///
-/// Every edit goes to the device's state, and only the state's signals change what is shown; so all editors agree
-/// and none answers another.
+/// Every edit goes through DeviceEdits to the device's state, and only the state's signals change what is shown; so
+/// all editors agree and none answers another.
 class RegisterForm : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @p state must live as long as this widget.
-    RegisterForm(DeviceState& state, int registerIndex, NumberBase fieldBase, QWidget* parent = nullptr);
+    /// @p edits must live as long as this widget.
+    RegisterForm(DeviceEdits& edits, int registerIndex, NumberBase fieldBase, QWidget* parent = nullptr);
 
     int registerIndex() const { return m_index; }
     ValuePanel* values() const { return m_values; }
@@ -50,9 +51,11 @@ private:
     void showValue();
     void showIfMine(int registerIndex);
     void setRegister(quint64 value);
+    void flipBit(quint64 value);
     void setField(int fieldIndex, quint64 value);
 
-    DeviceState& m_state;
+    DeviceEdits& m_edits;
+    const DeviceState& m_state;
     int m_index;
     Heading* m_heading = nullptr;
     ValuePanel* m_values = nullptr;
