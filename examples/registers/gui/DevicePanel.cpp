@@ -417,7 +417,7 @@ bool DevicePanel::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     const bool edits = key == Qt::Key_F2 || key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (watched == m_view && edits && editValue()) {
+    if (watched == m_view && m_view->hasFocus() && edits && editValue()) { // an open editor passes its keys on
         return true;
     }
     return QWidget::eventFilter(watched, event);
