@@ -4,6 +4,7 @@
 #include "gui/MainWindow.h"
 #include "gui/QtArguments.h"
 #include "gui/Screenshot.h"
+#include "gui/Settings.h"
 
 #include <Tessera/Tessera.h>
 
@@ -73,6 +74,7 @@ int runWithWindow(const CommandLine& commandLine)
         errors << QCoreApplication::applicationName() << ": " << error << '\n';
         return kExitBadUse;
     }
+    useChosenFont();
     MainWindow window;
     window.restoreLayout();
     window.show();

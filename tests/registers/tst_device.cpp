@@ -26,6 +26,7 @@ class tst_Device : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void anAddressFindsTheRegisterThatCoversIt();
     void accessHasTheSchemasSpelling();
     void accessSaysWhatIsPossible();
     void fieldValuesAreExact_data();
@@ -273,6 +274,32 @@ void tst_Device::theTreeIsConsistent()
         }
     }
     QCOMPARE(seen, d.registerCount());
+}
+
+void tst_Device::anAddressFindsTheRegisterThatCoversIt()
+{
+    Device device;
+    const auto add = [&device](const char* name, quint64 address, quint8 size) {
+        Register reg;
+        reg.name = QLatin1String(name);
+        reg.path = reg.name;
+        reg.address = address;
+        reg.size = size;
+        device.addRegister(Device::kRootNode, std::move(reg));
+    };
+    add("WIDE", 0x100, 64);
+    add("INSIDE", 0x104, 16);
+    add("ODD", 0x110, 9);
+    add("TOP", ~quint64(0), 8);
+    QCOMPARE(device.findAddress(0x0FF), -1);
+    QCOMPARE(device.findAddress(0x100), 0);
+    QCOMPARE(device.findAddress(0x103), 0);
+    QCOMPARE(device.findAddress(0x104), 1); // one that begins there comes first
+    QCOMPARE(device.findAddress(0x107), 0);
+    QCOMPARE(device.findAddress(0x108), -1);
+    QCOMPARE(device.findAddress(0x111), 2);
+    QCOMPARE(device.findAddress(0x112), -1);
+    QCOMPARE(device.findAddress(~quint64(0)), 3);
 }
 
 QTEST_GUILESS_MAIN(tst_Device)

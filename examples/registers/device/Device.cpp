@@ -94,6 +94,22 @@ QString Device::nodePath(int index) const
     return names.join(QLatin1Char('.'));
 }
 
+int Device::findAddress(quint64 address) const
+{
+    int covering = -1;
+    for (int i = 0; i < m_registers.size(); ++i) {
+        const Register& reg = m_registers.at(i);
+        if (reg.address == address) {
+            return i;
+        }
+        const quint64 byteCount = (reg.size + 7U) / 8U;
+        if (covering < 0 && address > reg.address && address - reg.address < byteCount) {
+            covering = i;
+        }
+    }
+    return covering;
+}
+
 PathTarget Device::find(const QString& path) const
 {
     const int whole = findRegister(path);

@@ -169,6 +169,8 @@ public:
 
     /// Index of the register with @p path, or -1. Of several with one path the first answers.
     int findRegister(const QString& path) const { return m_registerOfPath.value(path, -1); }
+    /// Index of the register that begins at @p address, or else of one that covers it, or -1. Addresses are of bytes.
+    int findAddress(quint64 address) const;
     /// The register or field with @p path.
     PathTarget find(const QString& path) const;
     /// Says which part of @p path leads nowhere; empty when find() finds it.

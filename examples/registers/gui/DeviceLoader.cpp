@@ -7,7 +7,7 @@ namespace registers {
 
 namespace {
 
-constexpr int kPatienceMs = 80;
+constexpr int kPatienceMs = 150;
 constexpr int kFrameMs = 16;
 
 } // namespace

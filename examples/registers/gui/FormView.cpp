@@ -13,11 +13,19 @@
 namespace registers {
 
 FormView::FormView(QWidget* parent)
-    : QScrollArea(parent)
+    : nsUI::CScrollWdg(parent)
 {
-    setWidgetResizable(true);
+    setWidthAdaptiveType(AdaptiveViewport);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
+}
+
+void FormView::setContent(QWidget* content)
+{
+    setWidget(content);
+    content->ensurePolished();
+    setMinimumWidth(content->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width());
+    adaptiveSize(); // a new content has its own size until then
 }
 
 void FormView::showNode(DeviceEdits& edits, int node)
@@ -27,9 +35,9 @@ void FormView::showNode(DeviceEdits& edits, int node)
     if (shown.kind == NodeKind::Register) {
         m_form = new RegisterForm(edits, shown.registerIndex, m_fieldBase);
         connect(m_form, &RegisterForm::fieldBasePicked, this, &FormView::setFieldBase);
-        setWidget(m_form);
+        setContent(m_form);
     } else {
-        setWidget(new GroupPage(edits.state(), node));
+        setContent(new GroupPage(edits.state(), node));
     }
     verticalScrollBar()->setValue(0);
 }
@@ -60,7 +68,7 @@ void FormView::showField(int fieldIndex)
 void FormView::clear()
 {
     m_form = nullptr;
-    setWidget(new QWidget);
+    setContent(new QWidget);
 }
 
 void FormView::setFieldBase(NumberBase base)

@@ -3,15 +3,16 @@
 
 #include "gui/NumberText.h"
 
-#include <QScrollArea>
+#include <Tessera/widgets/CScrollWdg.h>
 
 namespace registers {
 
 class DeviceEdits;
 class RegisterForm;
 
-/// Shows the form of one register, or the page of one peripheral or cluster, and scrolls it.
-class FormView : public QScrollArea
+/// Shows the form of one register, or the page of one peripheral or cluster, and scrolls it up and down. It is never
+/// narrower than what it shows.
+class FormView : public nsUI::CScrollWdg
 {
     Q_OBJECT
 
@@ -37,6 +38,8 @@ Q_SIGNALS:
     void fieldBaseChanged(NumberBase base);
 
 private:
+    void setContent(QWidget* content);
+
     RegisterForm* m_form = nullptr;
     NumberBase m_fieldBase = NumberBase::Hexadecimal;
 };

@@ -7,11 +7,16 @@
 #include "gui/DeviceLoader.h"
 #include "gui/DevicePanel.h"
 #include "gui/FormView.h"
+#include "gui/GoToDialog.h"
 #include "gui/Icons.h"
-#include "gui/LoadBar.h"
+#include "gui/LoadDialog.h"
 #include "gui/RegisterForm.h"
 #include "gui/Settings.h"
 #include "gui/UnplacedDialog.h"
+#include "gui/WorkSteps.h"
+
+#include <Tessera/widgets/CAutoCursor.h>
+#include <Tessera/widgets/FontSettingDlg.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -84,7 +89,8 @@ MainWindow::MainWindow(QWidget* parent)
     , m_view(new FormView)
     , m_splitter(new QSplitter(this))
     , m_loader(new DeviceLoader(this))
-    , m_loadBar(new LoadBar)
+    , m_loadDialog(new LoadDialog(this))
+    , m_steps(new WorkSteps)
     , m_changedLabel(new QLabel)
     , m_bases(new QActionGroup(this))
 {
@@ -141,6 +147,7 @@ void MainWindow::initActions()
 
     addAction(m_copy, tr("&Copy Rows"), QKeySequence::Copy, "copy");
     addAction(m_find, tr("&Find"), QKeySequence::Find, "find");
+    addAction(m_goTo, tr("&Go to Address…"), QKeySequence(tr("Ctrl+G")), "goTo");
     addAction(m_findNext, tr("Find &Next"), QKeySequence::FindNext, "findNext");
     addAction(m_editBits, tr("Edit &Bits…"), QKeySequence(tr("Ctrl+B")), "editBits")->setIcon(lineIcon(LineIcon::Bits));
     addAction(m_resetRegister, tr("&Reset Register"), QKeySequence(tr("Ctrl+R")), "resetCurrent")
@@ -151,6 +158,7 @@ void MainWindow::initActions()
     addAction(m_changesOnly, tr("&Changes Only"), QKeySequence(tr("Ctrl+D")), "changesOnly")
         ->setIcon(lineIcon(LineIcon::Changes));
     m_changesOnly->setCheckable(true);
+    addAction(m_font, tr("&Font…"), QKeySequence(), "font");
     addAction(m_expandAll, tr("&Expand All"), QKeySequence(tr("Ctrl+Shift+E")), "expandAll");
     addAction(m_collapseAll, tr("C&ollapse All"), QKeySequence(tr("Ctrl+Shift+W")), "collapseAll");
     initBases();
@@ -190,13 +198,16 @@ void MainWindow::initMenus()
     edit->addSeparator();
     edit->addAction(m_copy);
     edit->addSeparator();
-    edit->addActions({m_find, m_findNext});
+    edit->addActions({m_find, m_findNext, m_goTo});
     edit->addSeparator();
     edit->addActions({m_editBits, m_resetRegister, m_resetAll});
     QMenu* view = menuBar()->addMenu(tr("&View"));
     view->addActions(m_bases->actions());
     view->addSeparator();
     view->addActions({m_changesOnly, m_expandAll, m_collapseAll});
+    view->addSeparator();
+    view->addAction(m_font);
+    menuBar()->setCornerWidget(m_steps);
 
     // The context menu of the tree. Copying is the tree's own affair: text boxes copy what is selected in them.
     m_copy->setShortcutContext(Qt::WidgetShortcut);
@@ -223,8 +234,6 @@ void MainWindow::initToolBar()
 void MainWindow::initStatusBar()
 {
     m_changedLabel->setObjectName(QStringLiteral("changedCount"));
-    m_loadBar->hide();
-    statusBar()->addWidget(m_loadBar, 1);
     statusBar()->addPermanentWidget(m_changedLabel);
 }
 
@@ -238,11 +247,14 @@ void MainWindow::initConnect()
     connect(m_copy, &QAction::triggered, this, &MainWindow::copySelection);
     connect(m_find, &QAction::triggered, m_panel, &DevicePanel::focusFilter);
     connect(m_findNext, &QAction::triggered, m_panel, &DevicePanel::findNext);
+    connect(m_goTo, &QAction::triggered, this, &MainWindow::goToAddress);
+    connect(m_font, &QAction::triggered, this, &MainWindow::chooseFont);
+    connect(m_steps, &WorkSteps::sigStepClicked, this, &MainWindow::takeStep);
     connect(m_editBits, &QAction::triggered, m_panel, &DevicePanel::editBits);
     connect(m_resetRegister, &QAction::triggered, this, &MainWindow::resetRegister);
     connect(m_resetAll, &QAction::triggered, this, &MainWindow::resetAll);
     connect(m_changesOnly, &QAction::triggered, this, &MainWindow::setChangesOnly);
-    connect(m_expandAll, &QAction::triggered, m_panel->view(), &QTreeView::expandAll);
+    connect(m_expandAll, &QAction::triggered, this, &MainWindow::expandAll);
     connect(m_collapseAll, &QAction::triggered, m_panel->view(), &QTreeView::collapseAll);
     connect(m_bases, &QActionGroup::triggered, this,
             [this](QAction* action) { setBase(static_cast<NumberBase>(action->data().toInt())); });
@@ -250,6 +262,7 @@ void MainWindow::initConnect()
     connect(m_undoGroup, &QUndoGroup::cleanChanged, this, [this](bool isClean) {
         if (isClean) {
             setWindowModified(false);
+            updateStep();
         }
     });
     // Who goes elsewhere has done with what was being typed.
@@ -261,9 +274,9 @@ void MainWindow::initConnect()
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterIsPlaced = true; });
     connect(m_panel, &DevicePanel::currentPlaceChanged, this, &MainWindow::showPlace);
     connect(m_loader, &DeviceLoader::started, this, &MainWindow::startLoading);
-    connect(m_loader, &DeviceLoader::progressed, m_loadBar, &LoadBar::setProgress);
+    connect(m_loader, &DeviceLoader::progressed, m_loadDialog, &LoadDialog::setProgress);
     connect(m_loader, &DeviceLoader::finished, this, &MainWindow::finishLoading);
-    connect(m_loadBar, &LoadBar::cancelClicked, m_loader, &DeviceLoader::cancel);
+    connect(m_loadDialog, &LoadDialog::cancelled, m_loader, &DeviceLoader::cancel);
 }
 
 void MainWindow::setSession(Session session)
@@ -322,6 +335,65 @@ void MainWindow::showStep(const PathTarget& target)
     }
 }
 
+void MainWindow::goToAddress()
+{
+    GoToDialog dialog(this);
+    const TreePlace present = m_panel->currentPlace();
+    dialog.setAddress(m_session.device->node(present.node).address);
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    const int index = m_session.device->findAddress(dialog.address());
+    if (index >= 0) {
+        select({index, -1});
+    } else {
+        statusBar()->showMessage(tr("No register at %1").arg(numberText(dialog.address(), NumberBase::Hexadecimal)),
+                                 kMessageMs);
+    }
+}
+
+void MainWindow::chooseFont()
+{
+    nsUI::FontSettingDlg dialog(this);
+    if (dialog.exec() == QDialog::Accepted) {
+        useChosenFont();
+    }
+}
+
+void MainWindow::takeStep(int step)
+{
+    switch (step) {
+    case WorkSteps::Open:
+        openWithDialog();
+        break;
+    case WorkSteps::Save:
+        exportWithDialog();
+        break;
+    default:
+        m_changesOnly->setChecked(step == WorkSteps::Review);
+        setChangesOnly(step == WorkSteps::Review);
+        break;
+    }
+}
+
+void MainWindow::updateStep()
+{
+    if (m_loader->isLoading() || !m_edits) {
+        m_steps->slotSetCurrentStep(WorkSteps::Open);
+    } else if (m_panel->changesOnly()) {
+        m_steps->slotSetCurrentStep(WorkSteps::Review);
+    } else {
+        const bool isSaved = m_edits->stack()->isClean() && m_session.state->modifiedCount() > 0 && !isWindowModified();
+        m_steps->slotSetCurrentStep(isSaved ? WorkSteps::Save : WorkSteps::Edit);
+    }
+}
+
+void MainWindow::expandAll()
+{
+    const nsUI::CAutoCursor waiting(Qt::WaitCursor);
+    m_panel->view()->expandAll();
+}
+
 void MainWindow::setBase(NumberBase base)
 {
     m_view->setFieldBase(base);
@@ -334,6 +406,7 @@ void MainWindow::setBase(NumberBase base)
 void MainWindow::setChangesOnly(bool changesOnly)
 {
     m_panel->setChangesOnly(changesOnly);
+    updateStep();
 }
 
 void MainWindow::copySelection()
@@ -391,6 +464,7 @@ bool MainWindow::exportWithDialog()
     if (fileName.isEmpty()) {
         return false;
     }
+    const nsUI::CAutoCursor waiting(Qt::WaitCursor);
     QString error;
     if (!saveExport(fileName, exportJson(*m_session.state), &error)) {
         showError(this, tr("The file cannot be written"), error);
@@ -399,6 +473,7 @@ bool MainWindow::exportWithDialog()
     m_edits->endGesture();
     m_edits->stack()->setClean();
     setWindowModified(false);
+    updateStep();
     statusBar()->showMessage(tr("Saved to %1").arg(fileName), kMessageMs);
     return true;
 }
@@ -486,6 +561,9 @@ void MainWindow::updateState()
     m_resetAll->setEnabled(idle && changed > 0);
     m_resetAll->setText(changed > 0 ? tr("Reset &All (%1)").arg(changed) : tr("Reset &All"));
     m_changedLabel->setText(state ? changedText(changed) : QString());
+    m_goTo->setEnabled(idle && state);
+    m_steps->setEnabled(idle);
+    updateStep();
 }
 
 void MainWindow::updateTitle()
@@ -498,14 +576,13 @@ void MainWindow::updateTitle()
 void MainWindow::startLoading(const QString& fileName)
 {
     m_splitter->setEnabled(false);
-    m_loadBar->start(fileName);
-    m_loadBar->show();
+    m_loadDialog->start(fileName);
     updateState();
 }
 
 void MainWindow::finishLoading()
 {
-    m_loadBar->hide();
+    m_loadDialog->hide();
     m_splitter->setEnabled(true);
     updateState();
 }

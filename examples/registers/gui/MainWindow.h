@@ -22,7 +22,8 @@ class DeviceEdits;
 class DeviceLoader;
 class DevicePanel;
 class FormView;
-class LoadBar;
+class LoadDialog;
+class WorkSteps;
 struct TreePlace;
 
 /// The register editor: the tree of a device at the left, the form of the chosen register at the right.
@@ -75,6 +76,11 @@ private:
     void select(const PathTarget& target);
     void showPlace(const TreePlace& place);
     void showStep(const PathTarget& target);
+    void goToAddress();
+    void chooseFont();
+    void takeStep(int step);
+    void updateStep();
+    void expandAll();
     void setBase(NumberBase base);
     void setChangesOnly(bool changesOnly);
     void copySelection();
@@ -95,7 +101,8 @@ private:
     FormView* m_view;
     QSplitter* m_splitter;
     DeviceLoader* m_loader;
-    LoadBar* m_loadBar;
+    LoadDialog* m_loadDialog;
+    WorkSteps* m_steps;
     QLabel* m_changedLabel;
     QAction* m_open = nullptr;
     QAction* m_openSample = nullptr;
@@ -107,10 +114,12 @@ private:
     QAction* m_copy = nullptr;
     QAction* m_find = nullptr;
     QAction* m_findNext = nullptr;
+    QAction* m_goTo = nullptr;
     QAction* m_editBits = nullptr;
     QAction* m_resetRegister = nullptr;
     QAction* m_resetAll = nullptr;
     QAction* m_changesOnly = nullptr;
+    QAction* m_font = nullptr;
     QAction* m_expandAll = nullptr;
     QAction* m_collapseAll = nullptr;
     QActionGroup* m_bases;

@@ -3,6 +3,9 @@
 
 #include <CCommon.h>
 
+#include <Tessera/Tessera.h>
+
+#include <QApplication>
 #include <QSettings>
 
 namespace registers {
@@ -22,6 +25,12 @@ QString splitterKey()
 QString fieldBaseKey()
 {
     return QStringLiteral("Window/FieldBase");
+}
+
+/// Where the library's font dialog keeps the choice.
+QString fontGroup()
+{
+    return QStringLiteral("Setting_AppFont");
 }
 
 } // namespace
@@ -51,6 +60,18 @@ void Settings::setSplitterState(const QByteArray& state)
     m_store->setValue(splitterKey(), state);
 }
 
+std::optional<QFont> Settings::chosenFont() const
+{
+    if (!m_store->childGroups().contains(fontGroup())) {
+        return std::nullopt;
+    }
+    nsUI::tagAppFont chosen;
+    chosen.readSettings(m_store, fontGroup());
+    QFont font = chosen.toFont();
+    font.setFamilies(chosen.families);
+    return font;
+}
+
 NumberBase Settings::fieldBase() const
 {
     switch (m_store->value(fieldBaseKey()).toInt()) {
@@ -66,6 +87,13 @@ NumberBase Settings::fieldBase() const
 void Settings::setFieldBase(NumberBase base)
 {
     m_store->setValue(fieldBaseKey(), static_cast<int>(base));
+}
+
+void useChosenFont()
+{
+    if (const std::optional<QFont> font = Settings().chosenFont()) {
+        QApplication::setFont(*font);
+    }
 }
 
 } // namespace registers

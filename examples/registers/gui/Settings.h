@@ -4,7 +4,10 @@
 #include "gui/NumberText.h"
 
 #include <QByteArray>
+#include <QFont>
 #include <QSharedPointer>
+
+#include <optional>
 
 QT_BEGIN_NAMESPACE
 class QSettings;
@@ -24,6 +27,9 @@ public:
     QByteArray splitterState() const;
     void setSplitterState(const QByteArray& state);
 
+    /// The font that the user has chosen; nothing when none was.
+    std::optional<QFont> chosenFont() const;
+
     /// Hexadecimal when nothing, or nothing useful, is stored.
     NumberBase fieldBase() const;
     void setFieldBase(NumberBase base);
@@ -31,5 +37,8 @@ public:
 private:
     QSharedPointer<QSettings> m_store;
 };
+
+/// Gives the application the font that the user has chosen, if one was.
+void useChosenFont();
 
 } // namespace registers

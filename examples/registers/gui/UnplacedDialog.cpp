@@ -2,12 +2,11 @@
 #include "gui/UnplacedDialog.h"
 
 #include "device/DeviceImport.h"
+#include "gui/Theme.h"
 
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QPlainTextEdit>
+#include <Tessera/widgets/CustomTextBrowser.h>
+
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace registers {
 
@@ -18,40 +17,37 @@ constexpr QSize kSize(640, 360);
 } // namespace
 
 UnplacedDialog::UnplacedDialog(const QString& fileName, const ImportResult& result, QWidget* parent)
-    : QDialog(parent)
-    , m_hasOthers(!result.values.isEmpty())
+    : nsUI::CMessageDlg(parent)
 {
-    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowTitle(tr("Load Values"));
-
-    auto* question = new QLabel(this);
-    question->setTextFormat(Qt::PlainText);
-    question->setWordWrap(true);
-    question->setText(
-        tr("%n register(s) of %1 cannot be set in this device:", nullptr, result.unplaced.size()).arg(fileName));
-    auto* list = new QPlainTextEdit(unplacedText(result.unplaced), this);
-    list->setReadOnly(true);
-    list->setTabChangesFocus(true);
-    list->setLineWrapMode(QPlainTextEdit::NoWrap);
-
-    auto* buttons = new QDialogButtonBox(m_hasOthers ? QDialogButtonBox::Cancel : QDialogButtonBox::Close, this);
-    if (m_hasOthers) {
-        buttons->addButton(tr("&Set the Other %n", nullptr, result.values.size()), QDialogButtonBox::AcceptRole);
-        buttons->button(QDialogButtonBox::Cancel)->setDefault(true);
-    }
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(question);
-    layout->addWidget(list, 1);
-    layout->addWidget(buttons);
     resize(kSize);
+    const QString count = tr("Registers of %1 that cannot be set in this device: %2");
+    appendColorText(count.arg(fileName).arg(result.unplaced.size()).toHtmlEscaped(), QColor());
+    for (const Unplaced& one : result.unplaced) {
+        appendColorText(unplacedText({one}).toHtmlEscaped(), accentColor(palette(), Accent::Caution));
+    }
+    textBrowser()->moveCursor(QTextCursor::Start);
+
+    QPushButton* dismiss = button(QDialogButtonBox::Ok);
+    dismiss->setText(tr("&Set Nothing"));
+    dismiss->setDefault(true);
+    if (!result.values.isEmpty()) {
+        auto* others = new QPushButton(tr("Set the &Other %1").arg(result.values.size()));
+        others->setObjectName(QStringLiteral("setOthers"));
+        buttonBox()->addButton(others, QDialogButtonBox::YesRole);
+        // The dialog closes with one answer whatever is clicked.
+        connect(others, &QPushButton::clicked, this, [this] {
+            m_agreed = true;
+            close();
+        });
+    }
 }
 
 bool UnplacedDialog::ask()
 {
-    return exec() == QDialog::Accepted && m_hasOthers;
+    m_agreed = false;
+    exec();
+    return m_agreed;
 }
 
 } // namespace registers

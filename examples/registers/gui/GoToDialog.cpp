@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "gui/GoToDialog.h"
+
+#include "gui/NumberBox.h"
+
+#include <QAbstractSpinBox>
+#include <QDialogButtonBox>
+
+namespace registers {
+
+namespace {
+
+constexpr int kAddressBits = 64;
+
+} // namespace
+
+GoToDialog::GoToDialog(QWidget* parent)
+    : nsUI::CustomInputDlg(parent, Qt::WindowFlags())
+    , m_address(new NumberBox(kAddressBits, NumberBase::Hexadecimal, NumberBox::Mode::Editable, this))
+{
+    setWindowTitle(tr("Go to Address"));
+    addRow(tr("&Address:"), m_address);
+    buttonBox()->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    connect(buttonBox(), &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttonBox(), &QDialogButtonBox::rejected, this, &QDialog::reject);
+    m_address->box()->selectAll();
+}
+
+quint64 GoToDialog::address() const
+{
+    return m_address->value();
+}
+
+void GoToDialog::setAddress(quint64 address)
+{
+    m_address->setValue(address);
+    m_address->box()->selectAll();
+}
+
+} // namespace registers
