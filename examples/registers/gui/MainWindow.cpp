@@ -111,7 +111,8 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow()
 {
-    // They look at the session, so they go before it.
+    // They look at the session, so they go before it; and nobody is left to be told of the history's end.
+    m_undoGroup->disconnect(this);
     delete m_splitter;
 }
 
