@@ -23,7 +23,7 @@ GoToDialog::GoToDialog(QWidget* parent)
     buttonBox()->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttonBox(), &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttonBox(), &QDialogButtonBox::rejected, this, &QDialog::reject);
-    m_address->box()->selectAll();
+    m_address->box()->setFocus();
 }
 
 quint64 GoToDialog::address() const
