@@ -76,6 +76,7 @@ private Q_SLOTS:
     void aPresentValueIsAlwaysAmongTheChoices_data();
     void aPresentValueIsAlwaysAmongTheChoices();
     void choicesWithOpenBitsKeepThePresentOnes();
+    void aSecondNameOfAValueIsAChoiceToo();
     void aValueIsWrittenIfItFits_data();
     void aValueIsWrittenIfItFits();
     void everyWriteCanBeUndone();
@@ -337,6 +338,18 @@ void tst_DeviceTree::choicesWithOpenBitsKeepThePresentOnes()
     const QModelIndex value = model.indexOf({state.device().registerAt(0).node, 0}, DeviceTreeModel::ValueColumn);
     QCOMPARE(value.data(nsUI::e_Role_Data).toList(), (QVariantList{quint64(0), quint64(3)}));
     QCOMPARE(value.data().toString(), QStringLiteral("HIGH (0x3)"));
+}
+
+void tst_DeviceTree::aSecondNameOfAValueIsAChoiceToo()
+{
+    Field field = makeField(QStringLiteral("F"), 0, 2);
+    field.enumeration = makeEnumeration({makeName(QStringLiteral("X"), 0), makeName(QStringLiteral("ALSO"), 0)});
+    DeviceState state(makeDevice({makeRegister(QStringLiteral("R"), 8, {field})}));
+    DeviceEdits edits(state);
+    const DeviceTreeModel model(edits);
+    const QModelIndex value = model.indexOf({state.device().registerAt(0).node, 0}, DeviceTreeModel::ValueColumn);
+    QCOMPARE(value.data(nsUI::e_Role_DataTexts).toStringList(),
+             (QStringList{QStringLiteral("X (0x0)"), QStringLiteral("ALSO (0x0)")}));
 }
 
 void tst_DeviceTree::aValueIsWrittenIfItFits_data()

@@ -431,7 +431,7 @@ void tst_MainWindow::aDroppedFileIsOpened()
 void tst_MainWindow::editsAreAskedForBeforeAnotherFile()
 {
     show(smallDevice());
-    state().setValue(0, 1);
+    m_window->edits().setRegister(0, 1);
     {
         Answer cancel(QMessageBox::RejectRole);
         action(QStringLiteral("openSample"))->trigger();
@@ -449,7 +449,7 @@ void tst_MainWindow::editsAreAskedForBeforeAnotherFile()
 void tst_MainWindow::editsAreAskedForBeforeClosing()
 {
     show(smallDevice());
-    state().setValue(0, 1);
+    m_window->edits().setRegister(0, 1);
     {
         Answer cancel(QMessageBox::RejectRole);
         QVERIFY(!m_window->close());
@@ -464,8 +464,8 @@ void tst_MainWindow::editsAreAskedForBeforeClosing()
 void tst_MainWindow::withoutEditsNothingIsAsked()
 {
     show(smallDevice());
-    state().setValue(0, 1);
-    state().reset(0);
+    m_window->edits().setRegister(0, 1);
+    m_window->edits().reset(0);
     Answer answer(QMessageBox::RejectRole);
     QVERIFY(m_window->close());
     QCOMPARE(answer.count(), 0);

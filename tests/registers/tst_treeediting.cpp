@@ -85,6 +85,18 @@ private Q_SLOTS:
     void aHiddenRowThatIsToBeShownEndsTheFilter();
     void savedValuesLoadBack();
     void savingIsWhatTheStarTells();
+    void aFailedSaveIsToldAndKeepsTheStar();
+    void whatStandsInAnOpenEditorIsAnEdit_data();
+    void whatStandsInAnOpenEditorIsAnEdit();
+    void anotherBaseKeepsWhatIsBeingTyped();
+    void changesOnlyKeepsWhatIsBeingTyped();
+    void theFocusStaysInTheTreeWhileChangesAreShown();
+    void keysTurnABitOver_data();
+    void keysTurnABitOver();
+    void undoIsTheWindowsInTheFormToo();
+    void bitsOfAHiddenRowAreEdited();
+    void whatEndsChangesOnlyUnchecksIt();
+    void aFileOfAnotherDeviceIsAskedFor();
     void whatHasNoPlaceIsNamed_data();
     void whatHasNoPlaceIsNamed();
     void withNothingToSetNothingIsAsked();
@@ -215,9 +227,9 @@ void tst_TreeEditing::aNameIsChosenFromTheOpenList()
     QVERIFY(box);
     QVERIFY(box->view()->isVisible());
     QTest::keyClick(box->view(), Qt::Key_End);
-    QTest::keyClick(box->view(), Qt::Key_Return);
-    QTest::keyClick(box, Qt::Key_Return);
-    QTRY_COMPARE(state().value(Control), quint64(0x20));
+    QTest::keyClick(box->view(), Qt::Key_Return); // this is all: what is picked is set
+    QCOMPARE(state().value(Control), quint64(0x20));
+    QTRY_VERIFY(!editor<QComboBox>());
 }
 
 void tst_TreeEditing::escapeKeepsTheNamedValue()
@@ -481,14 +493,169 @@ void tst_TreeEditing::savedValuesLoadBack()
 
 void tst_TreeEditing::savingIsWhatTheStarTells()
 {
+    QVERIFY(!m_window->isWindowModified());
     m_window->edits().setRegister(Control, 1);
     QVERIFY(m_window->isWindowModified());
-    history()->setClean(); // as saving does
-    m_window->setWindowModified(false);
+    QVERIFY(m_window->saveValues(m_folder->filePath(QStringLiteral("saved.json"))));
+    QVERIFY(!m_window->isWindowModified());
     m_window->edits().setRegister(Data, 1);
     QVERIFY(m_window->isWindowModified());
     action("undo")->trigger();
-    QVERIFY(!m_window->isWindowModified());
+    QVERIFY(!m_window->isWindowModified()); // as saved again
+    action("resetAll")->trigger();
+    QVERIFY(m_window->isWindowModified()); // not as saved, though nothing differs from its reset value
+}
+
+void tst_TreeEditing::aFailedSaveIsToldAndKeepsTheStar()
+{
+    m_window->edits().setRegister(Control, 1);
+    bool isWaiting = true;
+    const ModalDriver driver([&isWaiting](QDialog& dialog) {
+        isWaiting = QGuiApplication::overrideCursor() != nullptr;
+        dialog.reject();
+    });
+    QVERIFY(!m_window->saveValues(m_folder->filePath(QStringLiteral("no/such/folder.json"))));
+    QVERIFY(driver.hasActed());
+    QVERIFY(!isWaiting);
+    QVERIFY(m_window->isWindowModified());
+}
+
+void tst_TreeEditing::whatStandsInAnOpenEditorIsAnEdit_data()
+{
+    QTest::addColumn<bool>("isList");
+    QTest::newRow("a number") << false;
+    QTest::newRow("a choice") << true;
+}
+
+void tst_TreeEditing::whatStandsInAnOpenEditorIsAnEdit()
+{
+    QFETCH(bool, isList);
+    makeCurrent(value(isList ? QStringLiteral("MODE") : QStringLiteral("DATA")));
+    QTest::keyClick(view(), Qt::Key_F2);
+    if (isList) {
+        QTest::keyClick(editor<QComboBox>()->view(), Qt::Key_Escape); // the list alone
+        editor<QComboBox>()->setCurrentIndex(2);
+    } else {
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("99"));
+    }
+    bool isAsked = false;
+    const ModalDriver driver([&isAsked](QDialog& dialog) {
+        isAsked = qobject_cast<QMessageBox*>(&dialog) != nullptr;
+        dialog.reject();
+    });
+    QVERIFY(!m_window->close());
+    QVERIFY(isAsked);
+    QCOMPARE(state().value(isList ? Control : Data), isList ? quint64(0x20) : quint64(0x99));
+}
+
+void tst_TreeEditing::anotherBaseKeepsWhatIsBeingTyped()
+{
+    makeCurrent(value(QStringLiteral("DATA")));
+    QTest::keyClick(view(), Qt::Key_F2);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("55"));
+    m_window->formView()->setFieldBase(NumberBase::Decimal);
+    QCOMPARE(state().value(Data), quint64(0x55));
+    QVERIFY(view()->hasFocus());
+}
+
+void tst_TreeEditing::changesOnlyKeepsWhatIsBeingTyped()
+{
+    makeCurrent(value(QStringLiteral("DATA")));
+    QTest::keyClick(view(), Qt::Key_F2);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("55"));
+    action("changesOnly")->trigger();
+    QCOMPARE(state().value(Data), quint64(0x55));
+    QCOMPARE(view()->currentIndex().siblingAtColumn(0).data().toString(), QStringLiteral("DATA"));
+}
+
+void tst_TreeEditing::theFocusStaysInTheTreeWhileChangesAreShown()
+{
+    m_window->edits().setRegister(Control, 0x10);
+    m_window->edits().setRegister(Data, 1);
+    action("changesOnly")->trigger();
+    makeCurrent(value(QStringLiteral("CTRL")));
+    QTest::keyClick(view(), Qt::Key_F2);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("20"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); // sets it and opens the next editor
+    QTRY_COMPARE(state().value(Control), quint64(0x20));
+    QTest::qWait(20); // the rows are read anew
+    const QWidget* focus = QApplication::focusWidget();
+    QVERIFY(focus == view() || view()->isAncestorOf(focus));
+}
+
+void tst_TreeEditing::keysTurnABitOver_data()
+{
+    QTest::addColumn<int>("key");
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_F2, Qt::Key_Return}) {
+        QTest::newRow(qPrintable(QKeySequence(key).toString())) << int(key);
+    }
+}
+
+void tst_TreeEditing::keysTurnABitOver()
+{
+    QFETCH(int, key);
+    makeCurrent(row(QStringLiteral("EN"))); // its name
+    QTest::keyClick(view(), static_cast<Qt::Key>(key));
+    QCOMPARE(state().value(Control), quint64(1));
+    QTest::keyClick(view(), static_cast<Qt::Key>(key));
+    QCOMPARE(state().value(Control), quint64(0));
+}
+
+void tst_TreeEditing::undoIsTheWindowsInTheFormToo()
+{
+    m_window->edits().setRegister(Data, 0x12);
+    makeCurrent(row(QStringLiteral("DATA")));
+    auto* edit = m_window->formView()->form()->values()->hexadecimal()->findChild<QLineEdit*>();
+    edit->setFocus();
+    typeOver(edit, QStringLiteral("345"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(state().value(Data), quint64(0x12));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(state().value(Data), quint64(0));
+}
+
+void tst_TreeEditing::bitsOfAHiddenRowAreEdited()
+{
+    makeCurrent(row(QStringLiteral("DATA")));
+    m_window->devicePanel()->filterEdit()->setText(QStringLiteral("ctrl"));
+    QTest::keyClick(m_window->devicePanel()->filterEdit(), Qt::Key_Down);
+    QCOMPARE(m_window->formView()->form()->registerIndex(), int(Data));
+    QVERIFY(action("editBits")->isEnabled());
+    const ModalDriver driver([](QDialog& dialog) {
+        QVERIFY(dialog.windowTitle().contains(QStringLiteral("BLOCK.DATA")));
+        dialog.reject();
+    });
+    action("editBits")->trigger();
+    QVERIFY(driver.hasActed());
+}
+
+void tst_TreeEditing::whatEndsChangesOnlyUnchecksIt()
+{
+    m_window->edits().setRegister(Data, 1);
+    action("changesOnly")->trigger();
+    m_window->devicePanel()->setCurrentPlace({m_window->session().device->registerAt(Status).node});
+    QVERIFY(!action("changesOnly")->isChecked());
+    action("changesOnly")->trigger();
+    QVERIFY(m_window->devicePanel()->changesOnly());
+    const DevicePtr device = smallDevice();
+    m_window->setSession({device, std::make_unique<DeviceState>(device), {}});
+    QVERIFY(!action("changesOnly")->isChecked());
+    QVERIFY(!m_window->devicePanel()->changesOnly());
+}
+
+void tst_TreeEditing::aFileOfAnotherDeviceIsAskedFor()
+{
+    const QString file = write(QStringLiteral("a%2b.json"),
+                               R"({"device": "OTHER", "registers": [{"path": "BLOCK.CTRL", "value": "0x7"}]})");
+    const ModalDriver driver([](QDialog& dialog) {
+        const QString text = dialog.findChild<QTextBrowser*>()->toPlainText();
+        QVERIFY2(text.contains(QStringLiteral("a%2b.json")) && text.contains(QStringLiteral("OTHER")),
+                 qPrintable(text));
+        dialog.findChild<QPushButton*>(QStringLiteral("setOthers"))->click();
+    });
+    QVERIFY(m_window->loadValues(file));
+    QVERIFY(driver.hasActed());
+    QCOMPARE(state().value(Control), quint64(7));
 }
 
 void tst_TreeEditing::whatHasNoPlaceIsNamed_data()

@@ -144,6 +144,11 @@ QByteArray exportJson(const DeviceState& state)
     return json.take();
 }
 
+QString addressText(quint64 address)
+{
+    return hexNumber(address, kAddressDigits);
+}
+
 bool saveExport(const QString& path, const QByteArray& bytes, QString* error)
 {
     return saveFiles({{path, bytes}}, error);

@@ -17,6 +17,8 @@ QByteArray exportJson(const DeviceState& state);
 
 /// "0x" and at least @p digits upper-case hexadecimal digits.
 QString hexNumber(quint64 value, int digits);
+/// An address, in eight digits or more.
+QString addressText(quint64 address);
 /// How many hexadecimal digits a register of @p size bits needs.
 constexpr int hexDigits(int size)
 {

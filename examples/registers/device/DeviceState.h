@@ -27,6 +27,8 @@ public:
     const DevicePtr& devicePtr() const { return m_device; }
 
     quint64 value(int registerIndex) const { return m_values.at(registerIndex); }
+    /// Of all registers, in their order.
+    const QVector<quint64>& values() const { return m_values; }
     quint64 fieldValue(int registerIndex, int fieldIndex) const;
 
     /// Sets a register; bits beyond its size are dropped. Returns whether the value changed.

@@ -10,8 +10,6 @@ namespace registers {
 
 namespace {
 
-constexpr int kAddressDigits = 8;
-
 } // namespace
 
 DeviceFilterModel::DeviceFilterModel(QObject* parent)
@@ -20,6 +18,7 @@ DeviceFilterModel::DeviceFilterModel(QObject* parent)
     setDynamicSortFilter(false);
     m_refilter.setSingleShot(true);
     connect(&m_refilter, &QTimer::timeout, this, [this] {
+        Q_EMIT aboutToRefilter();
         refilter();
         Q_EMIT refiltered();
     });
@@ -104,7 +103,7 @@ void DeviceFilterModel::judgeAll()
     for (int node = Device::kRootNode + 1; node < device().nodes().size(); ++node) {
         const Node& judged = device().node(node);
         const bool isBelowMatch = matched.at(judged.parent);
-        matched[node] = isBelowMatch || matches(m_paths.at(node), hexNumber(judged.address, kAddressDigits));
+        matched[node] = isBelowMatch || matches(m_paths.at(node), addressText(judged.address));
         if (judged.kind == NodeKind::Register) {
             judgeRegister(node, matched.at(node), isBelowMatch);
         } else if (matched.at(node) && !m_changesOnly) {

@@ -38,6 +38,8 @@ public:
     TreePlace placeOf(const QModelIndex& index) const;
 
 Q_SIGNALS:
+    /// Changed values are about to lead to other rows.
+    void aboutToRefilter();
     /// Changed values have led to other rows.
     void refiltered();
 

@@ -13,6 +13,7 @@
 #include <Tessera/views/ItemRoles.h>
 #include <Tessera/views/TrView.h>
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
@@ -29,7 +30,6 @@ namespace {
 
 constexpr int kMargin = 8;
 constexpr int kFilterDelayMs = 60;
-constexpr int kAddressDigits = 8;
 constexpr int kColumnMargin = 14;
 constexpr int kRowMargin = 8;
 constexpr int kMostHitsToOpen = 400;
@@ -72,6 +72,7 @@ void DevicePanel::initFilter()
     m_filterDelay.setInterval(kFilterDelayMs);
     connect(m_filterEdit, &QLineEdit::textChanged, &m_filterDelay, QOverload<>::of(&QTimer::start));
     connect(&m_filterDelay, &QTimer::timeout, this, &DevicePanel::applyFilter);
+    connect(m_filter.get(), &DeviceFilterModel::aboutToRefilter, this, &DevicePanel::finishEditing);
     connect(m_filter.get(), &DeviceFilterModel::refiltered, this, &DevicePanel::showFiltered);
 }
 
@@ -111,6 +112,7 @@ void DevicePanel::setEdits(DeviceEdits& edits)
     m_expandedBefore.clear();
     m_filter->setText(QString());
     m_filter->setChangesOnly(false);
+    Q_EMIT changesOnlyChanged(false);
     auto model = std::make_unique<DeviceTreeModel>(edits);
     model->setBase(m_base);
     m_filter->setDeviceModel(model.get());
@@ -124,6 +126,7 @@ void DevicePanel::setEdits(DeviceEdits& edits)
 
 void DevicePanel::setBase(NumberBase base)
 {
+    finishEditing();
     m_base = base;
     if (m_model) {
         m_model->setBase(base);
@@ -144,7 +147,7 @@ void DevicePanel::updateColumns()
     for (const Register& reg : m_model->device().registers()) {
         largestSize = std::max<int>(largestSize, reg.size);
     }
-    const QString address = hexNumber(0, kAddressDigits);
+    const QString address = addressText(0);
     const QString value = paddedNumber(bitMask(largestSize), largestSize, m_base);
     const int valueWidth = metrics.horizontalAdvance(value.size() > address.size() ? value : address) + kColumnMargin;
     QHeaderView* header = m_view->header();
@@ -190,6 +193,7 @@ void DevicePanel::setCurrentPlace(const TreePlace& place)
         m_filter->setChangesOnly(false);
         m_filter->setText(QString());
         showFiltered();
+        Q_EMIT changesOnlyChanged(false);
     }
     const QModelIndex index = m_filter->indexOf(place);
     m_view->setCurrentIndex(index);
@@ -211,8 +215,30 @@ void DevicePanel::reportCurrent()
     }
 }
 
+/// Commits what stands in an open editor, which would be lost with its row.
+void DevicePanel::finishEditing()
+{
+    const QWidget* focus = QApplication::focusWidget();
+    if (focus && m_view->viewport()->isAncestorOf(focus)) {
+        m_view->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+bool DevicePanel::toggleBit()
+{
+    const QModelIndex value = m_view->currentIndex().siblingAtColumn(DeviceTreeModel::ValueColumn);
+    if (!value.flags().testFlag(Qt::ItemIsUserCheckable)) {
+        return false;
+    }
+    const bool isSet = value.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    return m_filter->setData(value, isSet ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+}
+
 bool DevicePanel::editValue()
 {
+    if (toggleBit()) {
+        return true;
+    }
     const QModelIndex value = m_view->currentIndex().siblingAtColumn(DeviceTreeModel::ValueColumn);
     if (!value.flags().testFlag(Qt::ItemIsEditable)) {
         return false;
@@ -224,7 +250,7 @@ bool DevicePanel::editValue()
 
 int DevicePanel::registerOfBits() const
 {
-    const TreePlace place = currentPlace();
+    const TreePlace place = m_reported; // the row that is current, or was before a filter has hidden it
     if (!m_model || !m_model->targetOf(place).isValid()) {
         return -1;
     }
@@ -238,7 +264,7 @@ bool DevicePanel::editBits()
     if (registerOfBits() < 0) {
         return false;
     }
-    const TreePlace place{currentPlace().node};
+    const TreePlace place{m_reported.node};
     const QPersistentModelIndex bytes = m_model->indexOf(place, DeviceTreeModel::BytesColumn);
     const QByteArray edited = nsUI::CBitDialog::getByteArray(
         bytes.data(Qt::EditRole).toByteArray(), bytes.data(nsUI::e_Role_BitDescriptions).value<QMap<int, QString>>(),
@@ -285,6 +311,7 @@ void DevicePanel::setChangesOnly(bool changesOnly)
     if (!m_model || changesOnly == m_filter->changesOnly()) {
         return;
     }
+    finishEditing();
     rememberExpanded();
     m_filter->setChangesOnly(changesOnly);
     showFiltered();
@@ -311,6 +338,7 @@ void DevicePanel::findNext()
 void DevicePanel::applyFilter()
 {
     if (m_model && m_filterEdit->text() != m_filter->text()) {
+        finishEditing();
         rememberExpanded();
         m_filter->setText(m_filterEdit->text());
         showFiltered();
@@ -417,7 +445,8 @@ bool DevicePanel::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     const bool edits = key == Qt::Key_F2 || key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (watched == m_view && m_view->hasFocus() && edits && editValue()) { // an open editor passes its keys on
+    if (watched == m_view && m_view->hasFocus() && // an open editor passes its keys on
+        ((edits && editValue()) || (key == Qt::Key_Space && toggleBit()))) {
         return true;
     }
     return QWidget::eventFilter(watched, event);

@@ -46,7 +46,7 @@ public:
     bool changesOnly() const;
     void setChangesOnly(bool changesOnly);
 
-    /// Opens the editor of the current row's value. False when it has none.
+    /// Opens the editor of the current row's value, or turns its bit over. False when it cannot be edited.
     bool editValue();
     /// Opens the bit dialog on the current row's register, or the one that its field is in; writes what it gives.
     /// False when there is none that can be written.
@@ -68,6 +68,8 @@ public:
 
 Q_SIGNALS:
     void currentPlaceChanged(const TreePlace& place);
+    /// Something else than setChangesOnly() has ended that.
+    void changesOnlyChanged(bool changesOnly);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -77,6 +79,8 @@ private:
     void initView();
     void initFilter();
     bool filterKeyPressed(int key);
+    bool toggleBit();
+    void finishEditing();
     void applyFilter();
     void rememberExpanded();
     void showFiltered();

@@ -16,7 +16,6 @@ namespace registers {
 
 namespace {
 
-constexpr int kAddressDigits = 8;
 /// In an index, beside the number of the register's node. There are far fewer nodes.
 constexpr quintptr kFieldFlag = 0x80000000U;
 
@@ -228,7 +227,7 @@ QString DeviceTreeModel::groupText(int nodeIndex, int column) const
     case NameColumn:
         return node.name;
     case AddressColumn:
-        return hexNumber(node.address, kAddressDigits);
+        return addressText(node.address);
     case ValueColumn: {
         const int changed = changedCount(nodeIndex);
         return changed > 0 ? tr("%n changed", nullptr, changed) : QString();
@@ -247,7 +246,7 @@ QString DeviceTreeModel::registerText(const PathTarget& target, int column) cons
     case NameColumn:
         return reg.name;
     case AddressColumn:
-        return hexNumber(reg.address, kAddressDigits);
+        return addressText(reg.address);
     case ResetColumn:
         return ValueCell(state(), target, m_base).resetText();
     case AccessColumn:

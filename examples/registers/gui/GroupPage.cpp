@@ -13,7 +13,6 @@ namespace registers {
 namespace {
 
 constexpr int kFormMargin = 16;
-constexpr int kAddressDigits = 8;
 
 } // namespace
 
@@ -22,7 +21,7 @@ GroupPage::GroupPage(const DeviceState& state, int node, QWidget* parent)
 {
     const Node& shown = state.device().node(node);
     auto* heading = new Heading({state.device().nodePath(node), shown.name, shown.description, {}}, this);
-    heading->facts()->addFact(tr("Address"), hexNumber(shown.address, kAddressDigits), FactsLine::Kind::Number);
+    heading->facts()->addFact(tr("Address"), addressText(shown.address), FactsLine::Kind::Number);
     heading->facts()->addFact(tr("Kind"), shown.kind == NodeKind::Cluster ? tr("cluster") : tr("peripheral"),
                               FactsLine::Kind::Text);
     heading->facts()->addFact(tr("Registers"), QString::number(shown.registerCount), FactsLine::Kind::Text);

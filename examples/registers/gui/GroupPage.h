@@ -7,7 +7,7 @@ namespace registers {
 
 class DeviceState;
 
-/// What there is to say about a peripheral or cluster, and its registers to go to.
+/// What there is to say about a peripheral or cluster.
 class GroupPage : public QWidget
 {
     Q_OBJECT

@@ -111,8 +111,8 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow()
 {
-    // They look at the session, so they go before it; and nobody is left to be told of the history's end.
-    m_undoGroup->disconnect(this);
+    // They look at the session, so they go before it; and the focus that is lost then is nobody's concern.
+    disconnect(qApp, nullptr, this, nullptr);
     delete m_splitter;
 }
 
@@ -149,7 +149,7 @@ void MainWindow::initActions()
     addAction(m_copy, tr("&Copy Rows"), QKeySequence::Copy, "copy");
     addAction(m_find, tr("&Find"), QKeySequence::Find, "find");
     addAction(m_goTo, tr("&Go to Address…"), QKeySequence(tr("Ctrl+G")), "goTo");
-    addAction(m_findNext, tr("Find &Next"), QKeySequence::FindNext, "findNext");
+    addAction(m_findNext, tr("Find &Next"), QKeySequence(tr("F3")), "findNext");
     addAction(m_editBits, tr("Edit &Bits…"), QKeySequence(tr("Ctrl+B")), "editBits")->setIcon(lineIcon(LineIcon::Bits));
     addAction(m_resetRegister, tr("&Reset Register"), QKeySequence(tr("Ctrl+R")), "resetCurrent")
         ->setIcon(lineIcon(LineIcon::Reset));
@@ -260,12 +260,6 @@ void MainWindow::initConnect()
     connect(m_bases, &QActionGroup::triggered, this,
             [this](QAction* action) { setBase(static_cast<NumberBase>(action->data().toInt())); });
     connect(m_view, &FormView::fieldBaseChanged, this, &MainWindow::setBase);
-    connect(m_undoGroup, &QUndoGroup::cleanChanged, this, [this](bool isClean) {
-        if (isClean) {
-            setWindowModified(false);
-            updateStep();
-        }
-    });
     // Who goes elsewhere has done with what was being typed.
     connect(qApp, &QApplication::focusChanged, this, [this] {
         if (m_edits) {
@@ -273,6 +267,7 @@ void MainWindow::initConnect()
         }
     });
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterIsPlaced = true; });
+    connect(m_panel, &DevicePanel::changesOnlyChanged, this, &MainWindow::setChangesOnly);
     connect(m_panel, &DevicePanel::currentPlaceChanged, this, &MainWindow::showPlace);
     connect(m_loader, &DeviceLoader::started, this, &MainWindow::startLoading);
     connect(m_loader, &DeviceLoader::progressed, m_loadDialog, &LoadDialog::setProgress);
@@ -295,6 +290,8 @@ void MainWindow::setSession(Session session)
         m_splitter->setSizes({treeWidth, width() - treeWidth});
     }
     m_fileName = m_session.device->sourceFile;
+    m_savedValues = m_session.state->values();
+    m_wasSaved = false;
     connect(m_session.state.get(), &DeviceState::registerChanged, this, &MainWindow::markEdited);
     connect(m_session.state.get(), &DeviceState::allChanged, this, &MainWindow::markEdited);
     connect(m_edits.get(), &DeviceEdits::stepped, this, &MainWindow::showStep);
@@ -332,7 +329,6 @@ void MainWindow::showStep(const PathTarget& target)
 {
     if (target.isValid() && (!m_view->form() || m_view->form()->registerIndex() != target.registerIndex)) {
         m_panel->setCurrentPlace({m_session.device->registerAt(target.registerIndex).node, target.fieldIndex});
-        m_changesOnly->setChecked(m_panel->changesOnly());
     }
 }
 
@@ -363,6 +359,9 @@ void MainWindow::chooseFont()
 
 void MainWindow::takeStep(int step)
 {
+    if (!m_edits && step != WorkSteps::Open) {
+        return;
+    }
     switch (step) {
     case WorkSteps::Open:
         openWithDialog();
@@ -371,10 +370,10 @@ void MainWindow::takeStep(int step)
         exportWithDialog();
         break;
     default:
-        m_changesOnly->setChecked(step == WorkSteps::Review);
         setChangesOnly(step == WorkSteps::Review);
         break;
     }
+    updateStep();
 }
 
 void MainWindow::updateStep()
@@ -384,8 +383,7 @@ void MainWindow::updateStep()
     } else if (m_panel->changesOnly()) {
         m_steps->slotSetCurrentStep(WorkSteps::Review);
     } else {
-        const bool isSaved = m_edits->stack()->isClean() && m_session.state->modifiedCount() > 0 && !isWindowModified();
-        m_steps->slotSetCurrentStep(isSaved ? WorkSteps::Save : WorkSteps::Edit);
+        m_steps->slotSetCurrentStep(m_wasSaved && !isWindowModified() ? WorkSteps::Save : WorkSteps::Edit);
     }
 }
 
@@ -406,6 +404,7 @@ void MainWindow::setBase(NumberBase base)
 
 void MainWindow::setChangesOnly(bool changesOnly)
 {
+    m_changesOnly->setChecked(changesOnly);
     m_panel->setChangesOnly(changesOnly);
     updateStep();
 }
@@ -465,14 +464,24 @@ bool MainWindow::exportWithDialog()
     if (fileName.isEmpty()) {
         return false;
     }
-    const nsUI::CAutoCursor waiting(Qt::WaitCursor);
+    return saveValues(fileName);
+}
+
+bool MainWindow::saveValues(const QString& fileName)
+{
     QString error;
-    if (!saveExport(fileName, exportJson(*m_session.state), &error)) {
+    bool isSaved = false;
+    {
+        const nsUI::CAutoCursor waiting(Qt::WaitCursor);
+        isSaved = saveExport(fileName, exportJson(*m_session.state), &error);
+    }
+    if (!isSaved) {
         showError(this, tr("The file cannot be written"), error);
         return false;
     }
     m_edits->endGesture();
-    m_edits->stack()->setClean();
+    m_savedValues = m_session.state->values();
+    m_wasSaved = true;
     setWindowModified(false);
     updateStep();
     statusBar()->showMessage(tr("Saved to %1").arg(fileName), kMessageMs);
@@ -490,13 +499,18 @@ void MainWindow::loadWithDialog()
 
 bool MainWindow::loadValues(const QString& fileName)
 {
-    const ImportResult result = readExportFile(fileName, *m_session.state);
+    const ImportResult result = [&] {
+        const nsUI::CAutoCursor waiting(Qt::WaitCursor);
+        return readExportFile(fileName, *m_session.state);
+    }();
     const QString name = QFileInfo(fileName).fileName();
     if (!result.isOk()) {
         showError(this, tr("The values cannot be loaded"), result.error);
         return false;
     }
-    if (!result.unplaced.isEmpty() && !UnplacedDialog(name, result, this).ask()) {
+    const bool isOfAnother = !result.deviceName.isEmpty() && result.deviceName != m_session.device->name;
+    if ((isOfAnother || !result.unplaced.isEmpty()) &&
+        !UnplacedDialog(name, result, isOfAnother ? result.deviceName : QString(), this).ask()) {
         return false;
     }
     const int before = m_edits->stack()->index();
@@ -510,6 +524,9 @@ bool MainWindow::loadValues(const QString& fileName)
 
 bool MainWindow::confirmLosingEdits()
 {
+    if (QWidget* edited = focusWidget()) {
+        edited->clearFocus(); // what stands in an open editor is an edit too
+    }
     if (!isWindowModified()) {
         return true;
     }
@@ -541,7 +558,7 @@ void MainWindow::resetAll()
 
 void MainWindow::markEdited()
 {
-    setWindowModified(m_session.state->modifiedCount() > 0);
+    setWindowModified(m_session.state->values() != m_savedValues);
     updateState();
 }
 

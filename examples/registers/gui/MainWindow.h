@@ -46,6 +46,9 @@ public:
     /// is set only if the user agrees.
     bool loadValues(const QString& fileName);
 
+    /// Writes the values of all registers and fields as JSON. When that fails, the user is told why.
+    bool saveValues(const QString& fileName);
+
     /// Takes size and place from the settings, and keeps them there when the window is closed.
     void restoreLayout();
 
@@ -96,6 +99,7 @@ private:
     Session m_session;
     std::unique_ptr<DeviceEdits> m_edits; ///< of the session's state
     QUndoGroup* m_undoGroup;
+    QVector<quint64> m_savedValues; ///< as they were opened, or saved last
     QString m_fileName;
     DevicePanel* m_panel;
     FormView* m_view;
@@ -123,6 +127,7 @@ private:
     QAction* m_expandAll = nullptr;
     QAction* m_collapseAll = nullptr;
     QActionGroup* m_bases;
+    bool m_wasSaved = false; ///< since it was opened
     bool m_keepsLayout = false;
     bool m_splitterIsPlaced = false; ///< by the user; until then it suits the device
     bool m_closesAfterLoading = false;

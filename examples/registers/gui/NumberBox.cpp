@@ -3,6 +3,7 @@
 
 #include "device/Device.h"
 #include "gui/PrefixValidator.h"
+#include "gui/SpinBoxType.h"
 #include "gui/Theme.h"
 #include "gui/WheelGuard.h"
 
@@ -10,6 +11,7 @@
 #include <Tessera/CISpinBox/CU32SpinBox.h>
 #include <Tessera/CISpinBox/CU64SpinBox.h>
 #include <Tessera/CISpinBox/CU8SpinBox.h>
+#include <Tessera/views/ItemRoles.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -23,29 +25,15 @@ namespace registers {
 
 namespace {
 
-// The library's names for what its spin box factory reads.
-enum FactoryRole { RoleType = 263, RoleMinimum, RoleMaximum, RolePrefix, RoleSuffix, RoleBase };
-
 constexpr int kWheelNotch = 120;
 constexpr int kLargeStep = 10;
-
-nsUI::e_ISpx_Type boxType(int width)
-{
-    if (width <= 8) {
-        return nsUI::e_ISpx_U8;
-    }
-    if (width <= 16) {
-        return nsUI::e_ISpx_U16;
-    }
-    return width <= 32 ? nsUI::e_ISpx_U32 : nsUI::e_ISpx_U64;
-}
 
 } // namespace
 
 NumberBox::NumberBox(int width, NumberBase base, Mode mode, QWidget* parent)
     : ValueEditor(parent)
     , m_maximum(bitMask(width))
-    , m_type(boxType(width))
+    , m_type(spinBoxType(width))
     , m_width(width)
     , m_base(base)
     , m_readOnly(mode == Mode::ReadOnly)
@@ -62,11 +50,11 @@ NumberBox::NumberBox(int width, NumberBase base, Mode mode, QWidget* parent)
 void NumberBox::initBox(NumberBase base)
 {
     const QHash<int, QVariant> settings{
-        {RoleType, m_type},
-        {RoleMinimum, 0U},
-        {RoleMaximum, m_maximum},
-        {RolePrefix, basePrefix(base)},
-        {RoleBase, static_cast<int>(base)},
+        {nsUI::e_Role_ISpxType, m_type},
+        {nsUI::e_Role_ISpxMinimum, 0U},
+        {nsUI::e_Role_ISpxMaximum, m_maximum},
+        {nsUI::e_Role_ISpxPrefix, basePrefix(base)},
+        {nsUI::e_Role_ISpxBase, static_cast<int>(base)},
     };
     m_box = static_cast<QAbstractSpinBox*>(nsUI::TesseraGlobal::ISP_create(this, settings));
     m_edit = m_box->findChild<QLineEdit*>();

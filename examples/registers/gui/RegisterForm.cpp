@@ -24,7 +24,6 @@ namespace {
 constexpr int kFormMargin = 16;
 constexpr int kCardMargin = 14;
 constexpr int kGap = 14;
-constexpr int kAddressDigits = 8;
 
 QLabel* cardTitle(const QString& text)
 {
@@ -72,7 +71,7 @@ Heading* RegisterForm::makeHeading()
         {shown.path, hasOtherName ? shown.displayName : shown.name, shown.description, registerNotes(shown)}, this);
     const int digits = hexDigits(shown.size);
     FactsLine* facts = heading->facts();
-    facts->addFact(tr("Address"), hexNumber(shown.address, kAddressDigits), FactsLine::Kind::Number);
+    facts->addFact(tr("Address"), addressText(shown.address), FactsLine::Kind::Number);
     facts->addFact(tr("Size"), shown.size == 1 ? tr("1 bit") : tr("%1 bits").arg(shown.size), FactsLine::Kind::Text);
     facts->addFact(tr("Access"), accessText(shown.access), FactsLine::Kind::Text);
     facts->addFact(tr("Reset value"), hexNumber(shown.resetValue, digits), FactsLine::Kind::Number);

@@ -16,15 +16,22 @@ constexpr QSize kSize(640, 360);
 
 } // namespace
 
-UnplacedDialog::UnplacedDialog(const QString& fileName, const ImportResult& result, QWidget* parent)
+UnplacedDialog::UnplacedDialog(const QString& fileName, const ImportResult& result, const QString& otherDevice,
+                               QWidget* parent)
     : nsUI::CMessageDlg(parent)
 {
     setWindowTitle(tr("Load Values"));
     resize(kSize);
-    const QString count = tr("Registers of %1 that cannot be set in this device: %2");
-    appendColorText(count.arg(fileName).arg(result.unplaced.size()).toHtmlEscaped(), QColor());
+    if (!otherDevice.isEmpty()) {
+        appendPlain(tr("%1 was made for the device %2.").arg(fileName, otherDevice), QColor());
+    }
+    if (!result.unplaced.isEmpty()) {
+        appendPlain(tr("Registers of %1 that cannot be set in this device: %2")
+                        .arg(fileName, QString::number(result.unplaced.size())),
+                    QColor());
+    }
     for (const Unplaced& one : result.unplaced) {
-        appendColorText(unplacedText({one}).toHtmlEscaped(), accentColor(palette(), Accent::Caution));
+        appendPlain(unplacedText({one}), accentColor(palette(), Accent::Caution));
     }
     textBrowser()->moveCursor(QTextCursor::Start);
 
@@ -32,7 +39,8 @@ UnplacedDialog::UnplacedDialog(const QString& fileName, const ImportResult& resu
     dismiss->setText(tr("&Set Nothing"));
     dismiss->setDefault(true);
     if (!result.values.isEmpty()) {
-        auto* others = new QPushButton(tr("Set the &Other %1").arg(result.values.size()));
+        auto* others = new QPushButton(
+            (result.unplaced.isEmpty() ? tr("Set &All %1") : tr("Set the &Other %1")).arg(result.values.size()));
         others->setObjectName(QStringLiteral("setOthers"));
         buttonBox()->addButton(others, QDialogButtonBox::YesRole);
         // The dialog closes with one answer whatever is clicked.
@@ -41,6 +49,11 @@ UnplacedDialog::UnplacedDialog(const QString& fileName, const ImportResult& resu
             close();
         });
     }
+}
+
+void UnplacedDialog::appendPlain(const QString& text, const QColor& color)
+{
+    appendColorText(text.toHtmlEscaped(), color);
 }
 
 bool UnplacedDialog::ask()

@@ -7,18 +7,23 @@ namespace registers {
 
 struct ImportResult;
 
-/// Names every register of a file that has no place in the device, and asks whether to set the others.
+/// Names every register of a file that has no place in the device, and the device that the file was made for when that
+/// is another one. Asks whether to set what has its place.
 class UnplacedDialog : public nsUI::CMessageDlg
 {
     Q_OBJECT
 
 public:
-    UnplacedDialog(const QString& fileName, const ImportResult& result, QWidget* parent = nullptr);
+    /// @p otherDevice is empty for a file that was made for the device that is open.
+    UnplacedDialog(const QString& fileName, const ImportResult& result, const QString& otherDevice,
+                   QWidget* parent = nullptr);
 
-    /// Runs the dialog. True when there are others, and they shall be set.
+    /// Runs the dialog. True when there is something to set, and it shall be set.
     bool ask();
 
 private:
+    void appendPlain(const QString& text, const QColor& color);
+
     bool m_agreed = false;
 };
 

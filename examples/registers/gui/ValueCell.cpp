@@ -4,23 +4,13 @@
 #include "device/DeviceState.h"
 #include "gui/Access.h"
 #include "gui/EnumText.h"
-
-#include <Tessera/Tessera.h>
+#include "gui/SpinBoxType.h"
 
 #include <QStringList>
 
 namespace registers {
 
 namespace {
-
-/// The smallest box that holds @p width bits.
-nsUI::e_ISpx_Type boxType(int width)
-{
-    return width <= 8    ? nsUI::e_ISpx_U8
-           : width <= 16 ? nsUI::e_ISpx_U16
-           : width <= 32 ? nsUI::e_ISpx_U32
-                         : nsUI::e_ISpx_U64;
-}
 
 QString allBases(quint64 number, int width)
 {
@@ -124,7 +114,7 @@ QVariant ValueCell::setting(int role) const
     case nsUI::e_Role_Data:
         return m_field && m_field->enumeration ? choices(role) : QVariant();
     case nsUI::e_Role_ISpxType:
-        return int(boxType(m_field ? usableWidth(m_register, *m_field) : m_register.size));
+        return int(spinBoxType(m_field ? usableWidth(m_register, *m_field) : m_register.size));
     case nsUI::e_Role_ISpxMinimum:
         return quint64(0);
     case nsUI::e_Role_ISpxMaximum:
@@ -145,9 +135,9 @@ QVariant ValueCell::choices(int role) const
     QStringList texts;
     QVariantList data;
     for (const EnumText::Choice& choice : names.choices()) {
-        const quint64 chosen = names.chosen(choice, present);
-        texts.append(chosen == present ? names.text(present, m_base) : names.text(choice, m_base));
-        data.append(chosen);
+        const bool isPresent = names.choiceFor(present) == &choice;
+        texts.append(isPresent ? names.text(present, m_base) : names.text(choice, m_base));
+        data.append(names.chosen(choice, present));
     }
     if (!data.contains(present)) {
         texts.append(names.text(present, m_base));

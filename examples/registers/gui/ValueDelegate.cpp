@@ -15,6 +15,11 @@ QWidget* ValueDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem
         QAbstractItemView* list = box->view();
         const int scrollBar = list->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         list->setMinimumWidth(list->sizeHintForColumn(0) + scrollBar);
+        connect(box, QOverload<int>::of(&QComboBox::activated), this, [this, box] {
+            auto* self = const_cast<ValueDelegate*>(this);
+            Q_EMIT self->commitData(box);
+            Q_EMIT self->closeEditor(box);
+        });
     }
     return editor;
 }

@@ -5,7 +5,7 @@
 
 namespace registers {
 
-/// The library's editors, with lists that are as wide as what they offer.
+/// The library's editors, with lists that are as wide as what they offer. What is picked from a list is set at once.
 class ValueDelegate : public nsUI::StyledItemDelegate
 {
     Q_OBJECT

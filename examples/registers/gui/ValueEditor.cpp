@@ -2,6 +2,7 @@
 #include "gui/ValueEditor.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 
 namespace registers {
 
@@ -16,6 +17,18 @@ void ValueEditor::setContent(QWidget* editor)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(editor);
     setFocusProxy(editor);
+}
+
+bool ValueEditor::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace registers

@@ -21,6 +21,9 @@ public:
     virtual void setValue(quint64 value) = 0;
     virtual void setBase(NumberBase base) = 0;
 
+    /// For the content and what is in it: undo and redo are the window's, over all values, not those of one text.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     /// The user has set another value.
     void valueEdited(quint64 value);

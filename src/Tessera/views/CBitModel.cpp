@@ -123,7 +123,7 @@ bool CBitModel::setData(const QModelIndex& index, const QVariant& value, int rol
 
 QVariant CBitModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0)
         return m_tHeaders.at(section % c_nFields);
     return TbModel::headerData(section, orientation, role);
 }

@@ -94,9 +94,11 @@ void actOnClick(QAbstractItemModel* pModel, const QModelIndex& index)
     case e_Item_Pen:
         choosePen(cell, index.data(Qt::EditRole));
         break;
-    case e_Item_ByteArray:
-        editBits(cell, index.data(Qt::EditRole), index.data(e_Role_BitDescriptions));
+    case e_Item_ByteArray: {
+        const QVariant tValue = index.data(Qt::EditRole);
+        editBits(cell, tValue, index.data(e_Role_BitDescriptions));
         break;
+    }
     default:
         break;
     }

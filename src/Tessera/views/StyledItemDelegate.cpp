@@ -152,12 +152,12 @@ QRectF fitted(const QSizeF& tPicture, const QRect& rect)
 
 void paintPicture(QPainter* painter, const QRect& rect, const QModelIndex& index)
 {
+    const int nPicture = index.data(Qt::EditRole).toBool() ? 0 : 1;
     QStringList paths = index.data(e_Role_Pictures).toStringList();
     if (!index.flags().testFlag(Qt::ItemIsEnabled)) {
         if (const QVariant tData = index.data(e_Role_DisabledPictures); tData.isValid())
             paths = tData.toStringList();
     }
-    const int nPicture = index.data(Qt::EditRole).toBool() ? 0 : 1;
     if (nPicture >= paths.size())
         return;
     QSvgRenderer renderer(paths.at(nPicture));
@@ -288,24 +288,18 @@ void StyledItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model
 void StyledItemDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                               const QModelIndex& index) const
 {
-    switch (kindOf(index)) {
-    case e_Item_ComboBox:
-    case e_Item_DataComboBox:
-        if (auto* const pComboBox = qobject_cast<QComboBox*>(editor)) {
-            pComboBox->setGeometry(option.rect);
-            pComboBox->showPopup(); // one click or key is enough to choose
-            return;
-        }
-        break;
-    case e_Item_ISpinBox:
-    case e_Item_DSpinBox:
-    case e_Item_LineEdit:
-        editor->setGeometry(option.rect);
+    const int nKind = kindOf(index);
+    if (nKind < e_Item_ComboBox || nKind > e_Item_LineEdit) {
+        QStyledItemDelegate::updateEditorGeometry(editor, option, index);
         return;
-    default:
-        break;
     }
-    QStyledItemDelegate::updateEditorGeometry(editor, option, index);
+    if (editor == nullptr)
+        return;
+    editor->setGeometry(option.rect);
+    if (nKind == e_Item_ComboBox || nKind == e_Item_DataComboBox) {
+        if (auto* const pComboBox = qobject_cast<QComboBox*>(editor))
+            pComboBox->showPopup(); // one click or key is enough to choose
+    }
 }
 
 } // namespace nsUI

@@ -81,6 +81,22 @@ void CPenDialog::setCurrentPen(const QPen& pen)
     updateUI(pen);
 }
 
+QDialogButtonBox* CPenDialog::buttonBox() const
+{
+    return m_pBtnBox;
+}
+
+QPushButton* CPenDialog::button(QDialogButtonBox::StandardButton which) const
+{
+    return m_pBtnBox->button(which);
+}
+
+void CPenDialog::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
+{
+    if (QPushButton* const pButton = button(which))
+        pButton->setEnabled(enable);
+}
+
 void CPenDialog::slotBtnColorClicked()
 {
     const QColor color = QColorDialog::getColor(getBtnColor(), this, QString(), QColorDialog::ShowAlphaChannel);

@@ -5,11 +5,11 @@
 
 #include <QColor>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QPen>
 #include <QString>
 
 QT_BEGIN_NAMESPACE
-class QDialogButtonBox;
 class QDoubleSpinBox;
 class QPushButton;
 QT_END_NAMESPACE
@@ -45,6 +45,13 @@ public:
 
     QPen currentPen() const;  //!< the pen that the dialog was given
     QPen selectedPen() const; //!< the pen that the widgets show
+
+    //! \name The dialog's own buttons: OK, Cancel and Reset
+    //! @{
+    QDialogButtonBox* buttonBox() const;
+    QPushButton* button(QDialogButtonBox::StandardButton which) const;      //!< null when there is no such button
+    void setBtnEnable(QDialogButtonBox::StandardButton which, bool enable); //!< nothing when there is none
+    //! @}
 
     //! Gives the dialog another pen, and shows it. Nothing happens when it is the same.
     void setCurrentPen(const QPen& pen);
