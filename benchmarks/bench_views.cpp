@@ -4,8 +4,10 @@
 //
 //   bench_views [--benchmark_filter=REGEX]     on the offscreen platform unless QT_QPA_PLATFORM says otherwise
 //
-// A number behind a name is the kind of the cells (e_ItemType), or a number of bytes.
+// A number behind a name is the kind of the cells (e_ItemType), or a number of bytes. "By hand" is the floor: the same
+// done with nothing but what has to be done.
 
+#include <Tessera/CISpinBox/CI32SpinBox.h>
 #include <Tessera/Tessera.h>
 #include <Tessera/views/CBitDialog.h>
 #include <Tessera/views/CBitModel.h>
@@ -13,7 +15,11 @@
 #include <Tessera/views/StyledItemDelegate.h>
 #include <Tessera/views/TbModel.h>
 #include <Tessera/views/TbView.h>
+#include <Tessera/widgets/CDataComboBox.h>
+#include <Tessera/widgets/CDSpinBox.h>
+#include <Tessera/widgets/CPenDialog.h>
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFont>
 #include <QFormLayout>
@@ -22,6 +28,8 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPen>
+#include <QRegularExpressionValidator>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QSvgRenderer>
 #include <QTableView>
@@ -187,22 +195,95 @@ private:
     Qt::ItemFlags m_flags;
 };
 
+//! A model that asks itself for kind and value, as TbModel must, and does nothing else.
+class AskingModel : public QAbstractTableModel
+{
+public:
+    explicit AskingModel(int nKind)
+        : m_nKind(nKind)
+        , m_value(valueOf(nKind))
+    {
+    }
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override { return parent.isValid() ? 0 : c_nRows; }
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override
+    {
+        return parent.isValid() ? 0 : c_nColumns;
+    }
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role == Qt::EditRole)
+            return m_value;
+        if (role == e_Role_ItemType)
+            return m_nKind;
+        const QAbstractItemModel* pModel = this;
+        benchmark::DoNotOptimize(pModel); // a host's subclass can be any
+        if (role == Qt::DisplayRole && pModel->data(index, e_Role_ItemType).toInt() == m_nKind)
+            return pModel->data(index, Qt::EditRole);
+        return {};
+    }
+
+private:
+    int m_nKind;
+    QVariant m_value;
+};
+
 // data()
+
+//! A model of which the compiler does not know the class, as in a view.
+template <class Model>
+std::unique_ptr<QAbstractItemModel> hiddenModel(int nKind)
+{
+    QAbstractItemModel* pModel = new Model(nKind);
+    benchmark::DoNotOptimize(pModel);
+    return std::unique_ptr<QAbstractItemModel>(pModel);
+}
 
 template <class Model>
 void displayText(benchmark::State& state)
 {
-    const std::unique_ptr<QAbstractItemModel> pModel = std::make_unique<Model>(static_cast<int>(state.range(0)));
+    const auto pModel = hiddenModel<Model>(static_cast<int>(state.range(0)));
     const QModelIndex index = pModel->index(3, 3);
     for (auto _ : state)
         benchmark::DoNotOptimize(pModel->data(index, Qt::DisplayRole));
+}
+
+//! What a kind's text is made of, with the value at hand.
+QString textByHand(const QAbstractItemModel* pModel, const QModelIndex& index, int nKind, const QVariant& tValue)
+{
+    const auto texts = [pModel, &index](int nRole) { return pModel->data(index, nRole).toStringList(); };
+    switch (nKind) {
+    case e_Item_BoolText:
+        return QCoreApplication::translate("Translator", tValue.toBool() ? "True" : "False");
+    case e_Item_ComboBox:
+        return texts(e_Role_Texts).value(tValue.toInt());
+    case e_Item_DataComboBox:
+        return texts(e_Role_DataTexts).value(pModel->data(index, e_Role_Data).toList().indexOf(tValue));
+    case e_Item_Pen: {
+        const auto pen = tValue.value<QPen>();
+        return QStringLiteral("%1;%2;%3")
+            .arg(pen.color().name(), QString::number(pen.widthF()), CPenDialog::getPenStyleDesc(pen.style()));
+    }
+    default:
+        return QLatin1String("0x") + QString::fromLatin1(tValue.toByteArray().toHex().toUpper());
+    }
+}
+
+void formattedText(benchmark::State& state)
+{
+    const int nKind = static_cast<int>(state.range(0));
+    const auto pModel = hiddenModel<KindModel>(nKind);
+    const QModelIndex index = pModel->index(3, 3);
+    const QVariant tValue = valueOf(nKind);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(textByHand(pModel.get(), index, nKind, tValue));
 }
 
 //! All that a view asks a model for to paint a cell.
 template <class Model>
 void paintRoles(benchmark::State& state)
 {
-    const std::unique_ptr<QAbstractItemModel> pModel = std::make_unique<Model>(static_cast<int>(state.range(0)));
+    const auto pModel = hiddenModel<Model>(static_cast<int>(state.range(0)));
     const QModelIndex index = pModel->index(3, 3);
     for (auto _ : state) {
         for (const int nRole : {Qt::FontRole, Qt::TextAlignmentRole, Qt::ForegroundRole, Qt::CheckStateRole,
@@ -227,6 +308,56 @@ void editorRound(benchmark::State& state)
         delegate.setEditorData(pEditor.get(), index);
         delegate.setModelData(pEditor.get(), &model, index);
     }
+}
+
+//! The editor of a kind, set up, without delegate, tool tip and model.
+std::unique_ptr<QWidget> editorByHand(int nKind, QWidget* pParent)
+{
+    switch (nKind) {
+    case e_Item_ComboBox: {
+        auto pBox = std::make_unique<QComboBox>(pParent);
+        pBox->addItems({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")});
+        pBox->setCurrentIndex(1);
+        return pBox;
+    }
+    case e_Item_DataComboBox: {
+        auto pBox = std::make_unique<CDataComboBox>(pParent);
+        pBox->addItem(QStringLiteral("one"), 10);
+        pBox->addItem(QStringLiteral("two"), 20);
+        pBox->addItem(QStringLiteral("three"), 30);
+        pBox->setCurrentData(20, Qt::UserRole);
+        return pBox;
+    }
+    case e_Item_ISpinBox: {
+        auto pBox = std::make_unique<CI32SpinBox>(pParent);
+        pBox->setRange(0, 0xFFFF);
+        pBox->setValue(1234);
+        pBox->selectAll();
+        return pBox;
+    }
+    case e_Item_DSpinBox: {
+        auto pBox = std::make_unique<CDSpinBox>(pParent);
+        pBox->setRange(0.0, 1000.0);
+        pBox->setValue(12.5);
+        pBox->selectAll();
+        return pBox;
+    }
+    default: {
+        auto pEdit = std::make_unique<QLineEdit>(pParent);
+        pEdit->setValidator(
+            new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[a-z ]{0,12}")), pEdit.get()));
+        pEdit->setText(QStringLiteral("some text"));
+        pEdit->selectAll();
+        return pEdit;
+    }
+    }
+}
+
+void bareEditor(benchmark::State& state)
+{
+    QWidget parent;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(editorByHand(static_cast<int>(state.range(0)), &parent));
 }
 
 // A full repaint
@@ -289,15 +420,84 @@ void bitFlip(benchmark::State& state)
     }
 }
 
+//! Lets everything happen that was asked for, up to the last repaint.
+void settle()
+{
+    do {
+        QApplication::processEvents();
+    } while (QAbstractEventDispatcher::instance()->hasPendingEvents());
+}
+
+template <class View>
+void openGrid(benchmark::State& state)
+{
+    CBitModel model;
+    model.setByteArray(QByteArray(static_cast<int>(state.range(0)), '\x55'));
+    for (auto _ : state) {
+        View view;
+        view.setModel(&model);
+        view.resize(900, 600);
+        view.show();
+        settle();
+    }
+}
+
+template <class View>
+void scrollGrid(benchmark::State& state)
+{
+    CBitModel model;
+    model.setByteArray(QByteArray(static_cast<int>(state.range(0)), '\x55'));
+    View view;
+    view.setModel(&model);
+    view.resize(900, 600);
+    view.show();
+    settle();
+    QScrollBar* const pBar = view.verticalScrollBar();
+    const int nPage = pBar->pageStep();
+    for (auto _ : state) {
+        pBar->setValue(pBar->value() > pBar->maximum() - nPage ? 0 : pBar->value() + nPage);
+        settle();
+    }
+}
+
+template <class View>
+void flipInGrid(benchmark::State& state)
+{
+    CBitModel model;
+    model.setByteArray(QByteArray(static_cast<int>(state.range(0)), '\x55'));
+    View view;
+    view.setModel(&model);
+    view.resize(900, 600);
+    view.show();
+    settle();
+    const QModelIndex index = model.index(3, 1);
+    for (auto _ : state) {
+        model.setData(index, !index.data(Qt::EditRole).toBool(), Qt::EditRole);
+        settle();
+    }
+}
+
 // The bit dialog, shown, until everything has been painted again
+
+std::unique_ptr<CBitDialog> shownDialog(int nBytes)
+{
+    auto pDialog = std::make_unique<CBitDialog>(QByteArray(nBytes, '\x55'), QMap<int, QString>());
+    pDialog->resize(900, 600);
+    pDialog->show();
+    settle();
+    return pDialog;
+}
+
+void openedDialog(benchmark::State& state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(shownDialog(static_cast<int>(state.range(0))));
+}
 
 void typedDigit(benchmark::State& state, int nRow, int nKey)
 {
-    CBitDialog dialog(QByteArray(static_cast<int>(state.range(0)), '\x55'), {});
-    dialog.resize(900, 600);
-    dialog.show();
-    QApplication::processEvents();
-    auto* const pForm = dialog.findChild<QFormLayout*>();
+    const auto pDialog = shownDialog(static_cast<int>(state.range(0)));
+    auto* const pForm = pDialog->findChild<QFormLayout*>();
     auto* const pEdit = static_cast<QLineEdit*>(pForm->itemAt(nRow, QFormLayout::FieldRole)->widget());
     bool isFirst = false;
     for (auto _ : state) {
@@ -306,34 +506,7 @@ void typedDigit(benchmark::State& state, int nRow, int nKey)
         const int nDigit = isFirst ? nKey : nKey - 1;
         QKeyEvent event(QEvent::KeyPress, nDigit, Qt::NoModifier, QString(QChar(nDigit)));
         QApplication::sendEvent(pEdit, &event);
-        QApplication::processEvents();
-    }
-}
-
-//! The floor: both texts set anew in bare line edits, without grid and dialog.
-void bareTexts(benchmark::State& state)
-{
-    const int nBytes = static_cast<int>(state.range(0));
-    QWidget window;
-    QLineEdit hex(&window);
-    QLineEdit bin(&window);
-    hex.setInputMask(QLatin1Char('>') + QStringLiteral(" HH").repeated(nBytes).mid(1));
-    bin.setInputMask(QStringLiteral(" BBBBBBBB").repeated(nBytes).mid(1));
-    hex.setGeometry(0, 0, 850, 24);
-    bin.setGeometry(0, 30, 850, 24);
-    window.resize(900, 600);
-    window.show();
-    QApplication::processEvents();
-    const QString aHex[] = {QStringLiteral(" 55").repeated(nBytes).mid(1),
-                            QStringLiteral(" 5D").repeated(nBytes).mid(1)};
-    const QString aBin[] = {QStringLiteral(" 01010101").repeated(nBytes).mid(1),
-                            QStringLiteral(" 01011101").repeated(nBytes).mid(1)};
-    bool isFirst = false;
-    for (auto _ : state) {
-        isFirst = !isFirst;
-        hex.setText(aHex[isFirst ? 0 : 1]);
-        bin.setText(aBin[isFirst ? 0 : 1]);
-        QApplication::processEvents();
+        settle();
     }
 }
 
@@ -349,15 +522,39 @@ void typedBinDigit(benchmark::State& state)
 
 void flippedBit(benchmark::State& state)
 {
-    CBitDialog dialog(QByteArray(static_cast<int>(state.range(0)), '\x55'), {});
-    dialog.resize(900, 600);
-    dialog.show();
-    QApplication::processEvents();
-    QAbstractItemModel* const pModel = dialog.findChild<TbView*>()->model();
+    const auto pDialog = shownDialog(static_cast<int>(state.range(0)));
+    QAbstractItemModel* const pModel = pDialog->findChild<TbView*>()->model();
     const QModelIndex index = pModel->index(3, 1);
     for (auto _ : state) {
         pModel->setData(index, !index.data(Qt::EditRole).toBool(), Qt::EditRole);
-        QApplication::processEvents();
+        settle();
+    }
+}
+
+//! The two texts alone, set anew in line edits with the same masks.
+void bareTexts(benchmark::State& state)
+{
+    const int nBytes = static_cast<int>(state.range(0));
+    QWidget window;
+    QLineEdit hex(&window);
+    QLineEdit bin(&window);
+    hex.setInputMask(QLatin1Char('>') + QStringLiteral(" HH").repeated(nBytes).mid(1));
+    bin.setInputMask(QStringLiteral(" BBBBBBBB").repeated(nBytes).mid(1));
+    hex.setGeometry(0, 0, 850, 24);
+    bin.setGeometry(0, 30, 850, 24);
+    window.resize(900, 600);
+    window.show();
+    settle();
+    const QString aHex[] = {QStringLiteral(" 55").repeated(nBytes).mid(1),
+                            QStringLiteral(" 5D").repeated(nBytes).mid(1)};
+    const QString aBin[] = {QStringLiteral(" 01010101").repeated(nBytes).mid(1),
+                            QStringLiteral(" 01011101").repeated(nBytes).mid(1)};
+    bool isFirst = false;
+    for (auto _ : state) {
+        isFirst = !isFirst;
+        hex.setText(aHex[isFirst ? 0 : 1]);
+        bin.setText(aBin[isFirst ? 0 : 1]);
+        settle();
     }
 }
 
@@ -365,11 +562,14 @@ void flippedBit(benchmark::State& state)
 
 BENCHMARK_TEMPLATE(displayText, KindModel)->Name("text/TbModel")->DenseRange(0, 12);
 BENCHMARK_TEMPLATE(displayText, PlainModel)->Name("text/QAbstractTableModel")->DenseRange(0, 12);
+BENCHMARK_TEMPLATE(displayText, AskingModel)->Name("text/kind and value by hand")->Arg(0)->Arg(6);
+BENCHMARK(formattedText)->Name("text/formatted by hand")->Arg(2)->Arg(4)->Arg(5)->Arg(11)->Arg(12);
 BENCHMARK_TEMPLATE(paintRoles, KindModel)->Name("paint roles/TbModel")->DenseRange(0, 12);
 BENCHMARK_TEMPLATE(paintRoles, PlainModel)->Name("paint roles/QAbstractTableModel")->DenseRange(0, 12);
 
 BENCHMARK_TEMPLATE(editorRound, KindModel, StyledItemDelegate)->Name("editor/StyledItemDelegate")->DenseRange(4, 8);
 BENCHMARK_TEMPLATE(editorRound, PlainModel, QStyledItemDelegate)->Name("editor/QStyledItemDelegate")->DenseRange(4, 8);
+BENCHMARK(bareEditor)->Name("editor/by hand")->DenseRange(4, 8);
 
 BENCHMARK_TEMPLATE(repaint, TbView, KindModel, StyledItemDelegate)
     ->Name("repaint/TbView")
@@ -387,16 +587,27 @@ BENCHMARK_TEMPLATE(repaint, QTableView, PlainModel, PictureDelegate)
 BENCHMARK(bitCell)->Name("bits/cell")->Arg(8)->Arg(1 << 20);
 BENCHMARK(bitFlip)->Name("bits/flip")->Arg(8)->Arg(1 << 20);
 
-BENCHMARK(typedHexDigit)->Name("dialog/hex digit")->Arg(64)->Arg(1 << 10)->Arg(1 << 16)->Unit(benchmark::kMillisecond);
-BENCHMARK(typedBinDigit)->Name("dialog/bin digit")->Arg(64)->Arg(1 << 10)->Arg(1 << 16)->Unit(benchmark::kMillisecond);
-BENCHMARK(bareTexts)->Name("dialog/two QLineEdits")->Arg(64)->Arg(1 << 10)->Arg(1 << 16)->Unit(benchmark::kMillisecond);
-BENCHMARK(flippedBit)->Name("dialog/flip")->Arg(64)->Arg(1 << 10)->Arg(1 << 16)->Unit(benchmark::kMillisecond);
+#define GRID_SIZES Arg(1 << 10)->Arg(1 << 20)->Unit(benchmark::kMillisecond)
+BENCHMARK_TEMPLATE(openGrid, TbView)->Name("grid/open/TbView")->GRID_SIZES;
+BENCHMARK_TEMPLATE(openGrid, QTableView)->Name("grid/open/QTableView")->GRID_SIZES;
+BENCHMARK_TEMPLATE(scrollGrid, TbView)->Name("grid/page/TbView")->GRID_SIZES;
+BENCHMARK_TEMPLATE(scrollGrid, QTableView)->Name("grid/page/QTableView")->GRID_SIZES;
+BENCHMARK_TEMPLATE(flipInGrid, TbView)->Name("grid/flip/TbView")->GRID_SIZES;
+BENCHMARK_TEMPLATE(flipInGrid, QTableView)->Name("grid/flip/QTableView")->GRID_SIZES;
+
+#define DIALOG_SIZES Arg(16)->Arg(1 << 10)->Arg(1 << 13)->Arg(1 << 16)->Unit(benchmark::kMillisecond)
+BENCHMARK(openedDialog)->Name("dialog/open")->DIALOG_SIZES;
+BENCHMARK(typedHexDigit)->Name("dialog/hex digit")->DIALOG_SIZES;
+BENCHMARK(typedBinDigit)->Name("dialog/bin digit")->DIALOG_SIZES;
+BENCHMARK(flippedBit)->Name("dialog/flip")->DIALOG_SIZES;
+BENCHMARK(bareTexts)->Name("dialog/two QLineEdits")->DIALOG_SIZES;
 
 int main(int argc, char* argv[])
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    QApplication::setCursorFlashTime(0); // no cursor blinks into what is measured
 
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("picture.svg")));

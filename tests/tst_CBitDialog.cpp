@@ -100,6 +100,10 @@ private Q_SLOTS:
     void aNewDialogIsEmpty();
     void aDialogCanBeMadeWithItsValue();
     void aDialogBelongsToItsParent();
+    void theTextsHaveTheFontOfTheDialog();
+    void itsButtonsCanBeReached();
+    void theGridIsReadableInADarkPalette();
+    void typingBeginsAtTheFirstDigit();
 
     // Giving it a value
     void bytesShowInAllThreePlaces_data();
@@ -121,6 +125,7 @@ private Q_SLOTS:
     void aClickBesideTheValuesDoesNothing();
     void everyByteCanBeTypedAsHex();
     void everyByteCanBeTypedAsBinary();
+    void aLargeArrayIsEditedInAllThreePlaces();
     void resetReturnsToTheArrayThatWasGiven();
     void resetReturnsToTheArrayGivenLast();
     void resetOfAnEmptyArrayEmptiesTheGrid();
@@ -279,6 +284,65 @@ void tst_CBitDialog::aDialogBelongsToItsParent()
     QVERIFY(!pDialog->isModal()); // only while it is executed
     delete pDialog.data();
     QVERIFY(parent.children().isEmpty());
+}
+
+void tst_CBitDialog::theTextsHaveTheFontOfTheDialog()
+{
+    const auto shownFont = [](const QWidget* pWidget) {
+        const QFontInfo info(pWidget->font());
+        return QStringLiteral("%1 %2 %3 %4")
+            .arg(info.family())
+            .arg(info.pointSize())
+            .arg(info.bold())
+            .arg(info.italic());
+    };
+    QCOMPARE(shownFont(m_p->pHex), shownFont(m_pDialog.data()));
+    QCOMPARE(shownFont(m_p->pBin), shownFont(m_pDialog.data()));
+
+    QFont font(QStringLiteral("DejaVu Sans Mono"), 17, QFont::Bold);
+    font.setItalic(true);
+    m_pDialog->setFont(font);
+    QCOMPARE(m_p->pHex->font().pointSize(), 17);
+    QCOMPARE(shownFont(m_p->pHex), shownFont(m_pDialog.data()));
+    QCOMPARE(shownFont(m_p->pBin), shownFont(m_pDialog.data()));
+
+    m_pDialog->setStyleSheet(QStringLiteral("QLineEdit { font-size: 23pt; }"));
+    m_pDialog->ensurePolished();
+    QCOMPARE(m_p->pHex->font().pointSize(), 23);
+    QCOMPARE(m_p->pBin->font().pointSize(), 23);
+}
+
+void tst_CBitDialog::itsButtonsCanBeReached()
+{
+    QCOMPARE(m_pDialog->buttonBox(), m_p->pBox);
+    QCOMPARE(m_pDialog->button(QDialogButtonBox::Reset), m_p->pBox->button(QDialogButtonBox::Reset));
+    QVERIFY(!m_pDialog->button(QDialogButtonBox::Apply));
+    m_pDialog->setBtnEnable(QDialogButtonBox::Ok, false);
+    QVERIFY(!m_p->pBox->button(QDialogButtonBox::Ok)->isEnabled());
+    m_pDialog->setBtnEnable(QDialogButtonBox::Ok, true);
+    QVERIFY(m_p->pBox->button(QDialogButtonBox::Ok)->isEnabled());
+    m_pDialog->setBtnEnable(QDialogButtonBox::Apply, false); // there is none
+}
+
+void tst_CBitDialog::theGridIsReadableInADarkPalette()
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(0x30, 0x30, 0x30));
+    QApplication::setPalette(dark);
+    const CBitDialog dialog(QByteArray("\x12"), {});
+    const QColor text = dialog.findChild<TbView*>()->palette().color(QPalette::Text);
+    QApplication::setPalette(before);
+    QVERIFY2(text.lightness() < 64, qPrintable(text.name()));
+}
+
+void tst_CBitDialog::typingBeginsAtTheFirstDigit()
+{
+    m_pDialog->setByteArray(QByteArray("\x12\xAB"));
+    m_pDialog->show();
+    QCOMPARE(m_p->pHex->cursorPosition(), 0);
+    QCOMPARE(m_p->pBin->cursorPosition(), 0);
+    QTest::keyClicks(m_p->pHex, QStringLiteral("34cd"));
+    QCOMPARE(m_pDialog->byteArray(), QByteArray("\x34\xCD"));
 }
 
 // Giving it a value
@@ -514,6 +578,27 @@ void tst_CBitDialog::everyByteCanBeTypedAsBinary()
         QTest::keyClicks(m_p->pBin, QStringLiteral("%1").arg(n, 8, 2, QLatin1Char('0')));
         VERIFY_ALL_SHOW(QByteArray(1, static_cast<char>(n)) + "\xA5");
     }
+}
+
+void tst_CBitDialog::aLargeArrayIsEditedInAllThreePlaces()
+{
+    QByteArray bytes(0x10000, '\x55');
+    show(bytes);
+
+    m_p->pHex->setCursorPosition(0);
+    QTest::keyClicks(m_p->pHex, QStringLiteral("a"));
+    bytes[0] = '\xA5';
+    VERIFY_ALL_SHOW(bytes);
+
+    m_p->pBin->end(false);
+    m_p->pBin->cursorBackward(false);
+    QTest::keyClicks(m_p->pBin, QStringLiteral("0"));
+    bytes[0xFFFF] = '\x54';
+    VERIFY_ALL_SHOW(bytes);
+
+    m_p->click(0, 4); // bit 8
+    bytes[0xFFFE] = '\x54';
+    VERIFY_ALL_SHOW(bytes);
 }
 
 void tst_CBitDialog::resetReturnsToTheArrayThatWasGiven()

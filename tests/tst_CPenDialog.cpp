@@ -84,6 +84,7 @@ class tst_CPenDialog : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
+    void itsButtonsCanBeReached();
     void cleanup();
 
     void itDeclaresOnePrivateSlot();
@@ -613,6 +614,16 @@ void tst_CPenDialog::theStaticCallTakesParentAndTitle()
         QVERIFY(!ok);
     }
     QVERIFY(parent.findChildren<QDialog*>().isEmpty());
+}
+
+void tst_CPenDialog::itsButtonsCanBeReached()
+{
+    QCOMPARE(m_pDialog->buttonBox(), m_p->pBox);
+    QCOMPARE(m_pDialog->button(QDialogButtonBox::Reset), m_p->pBox->button(QDialogButtonBox::Reset));
+    QVERIFY(!m_pDialog->button(QDialogButtonBox::Apply));
+    m_pDialog->setBtnEnable(QDialogButtonBox::Ok, false);
+    QVERIFY(!m_p->pBox->button(QDialogButtonBox::Ok)->isEnabled());
+    m_pDialog->setBtnEnable(QDialogButtonBox::Apply, false); // there is none
 }
 
 QTEST_MAIN(tst_CPenDialog)

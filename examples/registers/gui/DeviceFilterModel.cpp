@@ -10,6 +10,12 @@ namespace registers {
 
 namespace {
 
+constexpr int kHeldMs = 100; ///< between looks at whether the rows may change
+
+} // namespace
+
+namespace {
+
 } // namespace
 
 DeviceFilterModel::DeviceFilterModel(QObject* parent)
@@ -17,11 +23,17 @@ DeviceFilterModel::DeviceFilterModel(QObject* parent)
 {
     setDynamicSortFilter(false);
     m_refilter.setSingleShot(true);
-    connect(&m_refilter, &QTimer::timeout, this, [this] {
-        Q_EMIT aboutToRefilter();
-        refilter();
-        Q_EMIT refiltered();
-    });
+    connect(&m_refilter, &QTimer::timeout, this, &DeviceFilterModel::followChanges);
+}
+
+void DeviceFilterModel::followChanges()
+{
+    if (m_isHeld && m_isHeld()) {
+        m_refilter.start(kHeldMs);
+        return;
+    }
+    refilter();
+    Q_EMIT refiltered();
 }
 
 void DeviceFilterModel::setDeviceModel(DeviceTreeModel* model)

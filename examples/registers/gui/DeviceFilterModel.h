@@ -7,6 +7,9 @@
 #include <QTimer>
 #include <QVector>
 
+#include <functional>
+#include <utility>
+
 namespace registers {
 
 /// The part of the device tree that a text is found in, that has changed, or both, with everything above it.
@@ -27,6 +30,8 @@ public:
     /// Leaves only what differs from its reset value; the rows follow every change.
     void setChangesOnly(bool changesOnly);
     bool changesOnly() const { return m_changesOnly; }
+    /// While @p isHeld answers true, changed values lead to no other rows: an open editor would lose its own.
+    void setHeldWhile(std::function<bool()> isHeld) { m_isHeld = std::move(isHeld); }
     bool isFiltering() const { return m_changesOnly || !m_words.isEmpty(); }
 
     /// What matches without its parent matching, in the tree's order; empty when nothing is filtered.
@@ -38,8 +43,6 @@ public:
     TreePlace placeOf(const QModelIndex& index) const;
 
 Q_SIGNALS:
-    /// Changed values are about to lead to other rows.
-    void aboutToRefilter();
     /// Changed values have led to other rows.
     void refiltered();
 
@@ -47,6 +50,7 @@ protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
 
 private:
+    void followChanges();
     void refilter();
     void judgeAll();
     void judgeRegister(int node, bool matches, bool isBelowMatch);
@@ -57,6 +61,7 @@ private:
 
     DeviceTreeModel* m_model = nullptr;
     QTimer m_refilter; ///< gathers the changes of one turn
+    std::function<bool()> m_isHeld;
     QVector<QString> m_paths;
     QVector<int> m_firstField; ///< of a register, in m_acceptedFields
     QString m_text;

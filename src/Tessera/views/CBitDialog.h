@@ -5,10 +5,15 @@
 
 #include <QByteArray>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QMap>
 #include <QString>
 
 #include <memory>
+
+QT_BEGIN_NAMESPACE
+class QPushButton;
+QT_END_NAMESPACE
 
 namespace nsUI {
 
@@ -19,8 +24,9 @@ namespace nsUI {
     Positions count from 0 at the least significant bit of the last byte. A text counts once all its digits are there;
     until then nothing follows it.
 
-    The two texts make sense up to some hundred bytes: every one of their digits is a position in an input mask. The
-    grid has no such limit.
+    The two texts make sense up to some kilobytes: every one of their digits is a position in an input mask, and a
+    change sets and paints them whole. At 1 KiB that is a third of a frame of 16 ms, from 8 KiB on it is a whole frame
+    and more, at 64 KiB a tenth of a second. The grid has no such limit.
 */
 class TESSERA_EXPORT CBitDialog : public QDialog
 {
@@ -45,6 +51,13 @@ public:
 
     void setBitDescMap(const QMap<int, QString>& bitDescMap);
     const QMap<int, QString>& bitDescMap() const;
+
+    //! \name The dialog's own buttons: OK, Cancel and Reset
+    //! @{
+    QDialogButtonBox* buttonBox() const;
+    QPushButton* button(QDialogButtonBox::StandardButton which) const;      //!< null when there is no such button
+    void setBtnEnable(QDialogButtonBox::StandardButton which, bool enable); //!< nothing when there is none
+    //! @}
 
 protected:
     void showEvent(QShowEvent* event) override;

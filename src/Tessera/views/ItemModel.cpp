@@ -47,30 +47,39 @@ QString dataText(const QAbstractItemModel* pModel, const QModelIndex& index, con
 QString penText(const QPen& pen)
 {
     return QStringLiteral("%1;%2;%3")
-        .arg(pen.color().name())
-        .arg(pen.widthF())
-        .arg(CPenDialog::getPenStyleDesc(pen.style()));
+        .arg(pen.color().name(), QString::number(pen.widthF()), CPenDialog::getPenStyleDesc(pen.style()));
 }
 
 QVariant displayData(const QAbstractItemModel* pModel, const QModelIndex& index, int nKind)
 {
-    if (nKind == e_Item_CheckBox || nKind == e_Item_Color)
-        return QVariant();
-    const QVariant tValue = pModel->data(index, Qt::EditRole);
+    const auto value = [pModel, &index] { return pModel->data(index, Qt::EditRole); };
     switch (nKind) {
+    case e_Item_CheckBox:
+    case e_Item_Color:
+        return QVariant();
     case e_Item_BoolText:
-        return boolText(tValue.toBool());
+        return boolText(value().toBool());
     case e_Item_ComboBox:
-        return rowText(pModel, index, tValue.toInt());
+        return rowText(pModel, index, value().toInt());
     case e_Item_DataComboBox:
-        return dataText(pModel, index, tValue);
+        return dataText(pModel, index, value());
     case e_Item_Pen:
-        return penText(tValue.value<QPen>());
+        return penText(value().value<QPen>());
     case e_Item_ByteArray:
-        return QStringLiteral("0x%1").arg(CCommon::byteAttryToHex(tValue.toByteArray(), QChar()));
+        return QStringLiteral("0x%1").arg(CCommon::byteAttryToHex(value().toByteArray(), QChar()));
     default:
-        return tValue;
+        return value();
     }
+}
+
+QVariant backgroundData(const QAbstractItemModel* pModel, const QModelIndex& index, int nKind)
+{
+    if (nKind != e_Item_Color)
+        return QVariant();
+    QVariant tValue = pModel->data(index, Qt::EditRole);
+    if (tValue.userType() != QMetaType::QColor)
+        tValue = toColor(tValue);
+    return tValue;
 }
 
 QVariant toolTipData(const QAbstractItemModel* pModel, const QModelIndex& index, int nKind)
@@ -105,9 +114,7 @@ QVariant data(const QAbstractItemModel* pModel, const QModelIndex& index, int nR
     case Qt::ToolTipRole:
         return toolTipData(pModel, index, kindOf(pModel, index));
     case Qt::BackgroundRole:
-        if (kindOf(pModel, index) == e_Item_Color)
-            return toColor(pModel->data(index, Qt::EditRole));
-        return QVariant();
+        return backgroundData(pModel, index, kindOf(pModel, index));
     case Qt::CheckStateRole:
         if (kindOf(pModel, index) == e_Item_CheckBox)
             return int(pModel->data(index, Qt::EditRole).toBool() ? Qt::Checked : Qt::Unchecked);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CustomInputDlg.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace nsUI {
@@ -23,6 +23,17 @@ void CustomInputDlg::addRow(const QString& label, QWidget* field)
 QDialogButtonBox* CustomInputDlg::buttonBox() const
 {
     return m_pBtnBox;
+}
+
+QPushButton* CustomInputDlg::button(QDialogButtonBox::StandardButton which) const
+{
+    return m_pBtnBox->button(which);
+}
+
+void CustomInputDlg::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
+{
+    if (QPushButton* const pButton = button(which))
+        pButton->setEnabled(enable);
 }
 
 void CustomInputDlg::initUI()

@@ -4,11 +4,12 @@
 #include <Tessera/TesseraExport.h>
 
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QString>
 
 QT_BEGIN_NAMESPACE
-class QDialogButtonBox;
 class QFormLayout;
+class QPushButton;
 QT_END_NAMESPACE
 
 namespace nsUI {
@@ -29,6 +30,9 @@ public:
     void addRow(const QString& label, QWidget* field);
 
     QDialogButtonBox* buttonBox() const; //!< the dialog's own, without any buttons at first
+
+    QPushButton* button(QDialogButtonBox::StandardButton which) const;      //!< null when there is no such button
+    void setBtnEnable(QDialogButtonBox::StandardButton which, bool enable); //!< nothing when there is none
 
 private:
     void initUI();

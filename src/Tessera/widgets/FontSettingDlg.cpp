@@ -8,6 +8,7 @@
 #include <Tessera/Tessera.h>
 
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace nsUI {
@@ -41,6 +42,22 @@ void FontSettingDlg::setExampleWdg(QWidget* widget)
     m_pExampleWdg = widget;
     m_pExampleLayout->addWidget(widget);
     styleExample();
+}
+
+QDialogButtonBox* FontSettingDlg::buttonBox() const
+{
+    return m_pUi->buttonBox;
+}
+
+QPushButton* FontSettingDlg::button(QDialogButtonBox::StandardButton which) const
+{
+    return m_pUi->buttonBox->button(which);
+}
+
+void FontSettingDlg::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
+{
+    if (QPushButton* const pButton = button(which))
+        pButton->setEnabled(enable);
 }
 
 void FontSettingDlg::initUI()

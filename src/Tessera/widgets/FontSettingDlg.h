@@ -4,12 +4,14 @@
 #include <Tessera/TesseraExport.h>
 
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QPointer>
 #include <QStringList>
 
 #include <memory>
 
 QT_BEGIN_NAMESPACE
+class QPushButton;
 class QVBoxLayout;
 namespace Ui {
 class FontSettingDlg;
@@ -52,6 +54,13 @@ public:
         later, when control returns to the event loop. A null \a widget and the one that is there are ignored.
     */
     void setExampleWdg(QWidget* widget);
+
+    //! \name The dialog's own buttons: OK and Cancel
+    //! @{
+    QDialogButtonBox* buttonBox() const;
+    QPushButton* button(QDialogButtonBox::StandardButton which) const;      //!< null when there is no such button
+    void setBtnEnable(QDialogButtonBox::StandardButton which, bool enable); //!< nothing when there is none
+    //! @}
 
 private:
     void initUI();
