@@ -104,6 +104,7 @@ private Q_SLOTS:
     void itsButtonsCanBeReached();
     void theGridIsReadableInADarkPalette();
     void typingBeginsAtTheFirstDigit();
+    void theLastColumnTakesTheRoomThatIsLeft();
 
     // Giving it a value
     void bytesShowInAllThreePlaces_data();
@@ -343,6 +344,14 @@ void tst_CBitDialog::typingBeginsAtTheFirstDigit()
     QCOMPARE(m_p->pBin->cursorPosition(), 0);
     QTest::keyClicks(m_p->pHex, QStringLiteral("34cd"));
     QCOMPARE(m_pDialog->byteArray(), QByteArray("\x34\xCD"));
+}
+
+void tst_CBitDialog::theLastColumnTakesTheRoomThatIsLeft()
+{
+    m_pDialog->setByteArray(QByteArray("\x12\xAB"));
+    m_pDialog->resize(1200, 400);
+    m_pDialog->show();
+    QCOMPARE(m_p->pView->horizontalHeader()->length(), m_p->pView->viewport()->width());
 }
 
 // Giving it a value

@@ -2,6 +2,7 @@
 #include "gui/WorkSteps.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QLayout>
 
 // Has to be called from the global namespace; a static library's resources are not there by themselves.
@@ -36,6 +37,9 @@ WorkSteps::WorkSteps(QWidget* parent)
     initializeIcons();
     layout()->setContentsMargins(0, 0, kEndMargin, 0);
     setStyleSheet(barRules());
+    // A mirrored window mirrors the places of the steps, but not their arrows.
+    setLayoutDirection(Qt::LeftToRight);
+    setDirection(QGuiApplication::isRightToLeft() ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
     addStep(QStringList{tr("Open"), tr("Edit"), tr("Review"), tr("Save")});
     setStepEnabled(true);
 }

@@ -156,6 +156,9 @@ void CBitDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
     m_pData->pView->resizeColumnsToContents();
+    // The last column has got its contents' width like the others: it is stretched anew.
+    m_pData->pView->horizontalHeader()->setStretchLastSection(false);
+    m_pData->pView->horizontalHeader()->setStretchLastSection(true);
     // What is typed begins at the first digit: behind the last one a full mask takes nothing.
     m_pData->pLEditHex->home(false);
     m_pData->pLEditBin->home(false);
