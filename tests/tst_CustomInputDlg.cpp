@@ -38,6 +38,7 @@ class tst_CustomInputDlg : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theFirstFieldHasTheFocus();
     void init();
     void cleanup();
 
@@ -233,6 +234,29 @@ void tst_CustomInputDlg::aHostsDialogAnswers()
         QVERIFY(driver.hasActed());
         QCOMPARE(pField->text(), QStringLiteral("CTRL"));
     }
+}
+
+void tst_CustomInputDlg::theFirstFieldHasTheFocus()
+{
+    CustomInputDlg dialog(nullptr, Qt::WindowFlags());
+    auto* const pNote = new QLabel(QStringLiteral("a note"));
+    auto* const pFirst = new QLineEdit;
+    auto* const pSecond = new QSpinBox;
+    dialog.addRow(QString(), pNote);
+    dialog.addRow(QStringLiteral("First"), pFirst);
+    dialog.addRow(QStringLiteral("Second"), pSecond);
+    dialog.buttonBox()->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QCOMPARE(QApplication::focusWidget(), pFirst);
+    QTest::keyClick(&dialog, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), pSecond);
+    QTest::keyClick(&dialog, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), dialog.button(QDialogButtonBox::Ok));
+    QVERIFY(!dialog.button(QDialogButtonBox::Apply));
+    dialog.setBtnEnable(QDialogButtonBox::Ok, false);
+    QVERIFY(!dialog.button(QDialogButtonBox::Ok)->isEnabled());
 }
 
 QTEST_MAIN(tst_CustomInputDlg)

@@ -172,6 +172,7 @@ class tst_FontSettingDlg : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theFormerExampleIsHiddenAtOnce();
     void initTestCase();
     void init();
     void cleanup();
@@ -988,6 +989,20 @@ void tst_FontSettingDlg::aHostMayDeleteItsExample()
     QCOMPARE(pNext->styleSheet(), rule(tagAppFont().families, 27, false, false));
     m_p->press(QDialogButtonBox::Ok);
     QCOMPARE(stored(), choice(QStringLiteral("JetBrains Mono,Arial"), 27, false, false));
+}
+
+void tst_FontSettingDlg::theFormerExampleIsHiddenAtOnce()
+{
+    FontSettingDlg dialog;
+    dialog.show();
+    auto* const pBox = dialog.findChild<QGroupBox*>(QStringLiteral("pGrxExamples"));
+    const QPointer<QLabel> pFormer = pBox->findChild<QLabel*>();
+    QVERIFY(pFormer && pFormer->isVisible());
+    dialog.setExampleWdg(new QPushButton(QStringLiteral("mine")));
+    QVERIFY(pFormer && !pFormer->isVisible());
+    QCOMPARE(dialog.button(QDialogButtonBox::Ok), dialog.buttonBox()->button(QDialogButtonBox::Ok));
+    dialog.setBtnEnable(QDialogButtonBox::Ok, false);
+    QVERIFY(!dialog.button(QDialogButtonBox::Ok)->isEnabled());
 }
 
 QTEST_MAIN(tst_FontSettingDlg)

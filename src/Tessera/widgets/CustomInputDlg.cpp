@@ -6,6 +6,15 @@
 #include <QVBoxLayout>
 
 namespace nsUI {
+namespace {
+
+bool takesTabFocus(const QWidget* pField)
+{
+    const QWidget* const pProxy = pField->focusProxy();
+    return ((pProxy != nullptr ? pProxy : pField)->focusPolicy() & Qt::TabFocus) != 0;
+}
+
+} // namespace
 
 CustomInputDlg::CustomInputDlg(QWidget* parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)
@@ -18,6 +27,8 @@ CustomInputDlg::CustomInputDlg(QWidget* parent, Qt::WindowFlags flags)
 void CustomInputDlg::addRow(const QString& label, QWidget* field)
 {
     m_pFormLayout->addRow(label, field);
+    if (field != nullptr && focusWidget() == nullptr && takesTabFocus(field))
+        field->setFocus(Qt::TabFocusReason);
 }
 
 QDialogButtonBox* CustomInputDlg::buttonBox() const

@@ -26,7 +26,10 @@ public:
     //! There is no help button in the title bar unless \a flags asks for one.
     CustomInputDlg(QWidget* parent, Qt::WindowFlags flags);
 
-    //! Appends a row. The dialog becomes the parent of \a field; a null one leaves the row with its label alone.
+    /*!
+        Appends a row. The dialog becomes the parent of \a field; a null one leaves the row with its label alone. The
+        first field that can have the focus has it when the dialog opens: the button box is older than all of them.
+    */
     void addRow(const QString& label, QWidget* field);
 
     QDialogButtonBox* buttonBox() const; //!< the dialog's own, without any buttons at first

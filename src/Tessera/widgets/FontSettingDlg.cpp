@@ -37,8 +37,10 @@ void FontSettingDlg::setExampleWdg(QWidget* widget)
 {
     if (widget == nullptr || widget == m_pExampleWdg)
         return;
-    if (!m_pExampleWdg.isNull())
+    if (!m_pExampleWdg.isNull()) {
+        m_pExampleWdg->hide(); // a dialog that runs meanwhile would go on showing it
         m_pExampleWdg->deleteLater();
+    }
     m_pExampleWdg = widget;
     m_pExampleLayout->addWidget(widget);
     styleExample();
