@@ -14,10 +14,6 @@ constexpr int kHeldMs = 100; ///< between looks at whether the rows may change
 
 } // namespace
 
-namespace {
-
-} // namespace
-
 DeviceFilterModel::DeviceFilterModel(QObject* parent)
     : QSortFilterProxyModel(parent)
 {
