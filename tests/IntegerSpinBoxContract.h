@@ -10,7 +10,10 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPaintEvent>
+#include <QPointer>
 #include <QRegion>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
 #include <QStringList>
 #include <QStyleOptionSpinBox>
 #include <QTest>
@@ -66,6 +69,8 @@ private Q_SLOTS:
     virtual void boundsThatLeaveTheValueRefreshNothing() = 0;
     virtual void aSettingMayBeMadeOfAnotherOne() = 0;
     virtual void aSlotMayMakeARangeOfTheValueItIsTold() = 0;
+    virtual void aSlotMayDeleteTheBox_data() = 0;
+    virtual void aSlotMayDeleteTheBox() = 0;
 
     // Single step and step type
     virtual void aSingleStepIsTakenUnlessItIsNegative_data() = 0;
@@ -101,6 +106,8 @@ private Q_SLOTS:
     virtual void theLineEditIsSilentWhileTheTextIsTold() = 0;
     virtual void aLineEditThatWasSilencedBeforeStaysSo() = 0;
     virtual void aRefreshRepaintsTheButtonsAsWell() = 0;
+    virtual void theButtonsFollowWhatOpensOrClosesTheirWay_data() = 0;
+    virtual void theButtonsFollowWhatOpensOrClosesTheirWay() = 0;
     virtual void aRefreshKeepsTheCursorWithinTheNumber_data() = 0;
     virtual void aRefreshKeepsTheCursorWithinTheNumber() = 0;
     virtual void aRefreshOfAnEmptyTextPutsTheCursorBeforeTheNumber() = 0;
@@ -140,7 +147,14 @@ private Q_SLOTS:
     virtual void typedTextIsReadInTheDisplayBase() = 0;
     virtual void aPrefixIsKeptWhileTyping() = 0;
     virtual void aPastedPrefixIsTakenOffAtBothEnds() = 0;
+    virtual void aPrefixThatIsTypedOverComesBackBeforeTheCursor_data() = 0;
+    virtual void aPrefixThatIsTypedOverComesBackBeforeTheCursor() = 0;
+    virtual void aPrefixThatIsDeletedComesBackBeforeTheCursor() = 0;
     virtual void aDigitTypedBesideASuffixIsRefused() = 0;
+    virtual void aRefusedKeyLeavesTextCursorAndSelectionAlone_data() = 0;
+    virtual void aRefusedKeyLeavesTextCursorAndSelectionAlone() = 0;
+    virtual void whatTheBoxShowsIsAcceptableInput_data() = 0;
+    virtual void whatTheBoxShowsIsAcceptableInput() = 0;
     virtual void aTypedSpecialValueTextDoesNotReachTheValue() = 0;
     virtual void aPastedTextWithAnOldAnswerIsClamped() = 0;
     virtual void withoutKeyboardTrackingTypingChangesNothing() = 0;
@@ -150,8 +164,14 @@ private Q_SLOTS:
     virtual void aSubclassDecidesWhichTextsAreAcceptable() = 0;
     virtual void aSubclassDecidesWhatATextMeans() = 0;
     virtual void aMeaningBeyondTheRangeIsClamped() = 0;
+    virtual void aSubclassFixesUpWhatStandsThereWhenTheFocusLeaves() = 0;
     virtual void aSubclassDecidesHowAValueIsWritten() = 0;
     virtual void aSubclassDecidesWhichStepsAreEnabled() = 0;
+    virtual void aSubclassMayReplaceTheLineEdit_data() = 0;
+    virtual void aSubclassMayReplaceTheLineEdit() = 0;
+    virtual void aLineEditKeepsTheValidatorThatItBrings() = 0;
+    virtual void theSameLineEditOrNoneReplacesNothing() = 0;
+    virtual void theLineEditMayBeReplacedWhileItsTextIsTold() = 0;
 
     // Stepping
     virtual void keysWheelAndButtonsStep() = 0;
@@ -206,6 +226,37 @@ inline void pasteOver(QLineEdit& edit, const QString& text)
     QTest::keySequence(&edit, QKeySequence::Paste);
 }
 
+//! A key of a keyboard: what it types, or which one it is.
+struct Key
+{
+    QString text;
+    std::optional<Qt::Key> code;
+
+    void press(QWidget& widget) const
+    {
+        if (code)
+            QTest::keyClick(&widget, *code);
+        else
+            QTest::keyClicks(&widget, text);
+    }
+};
+
+//! What a box shows: a value, and what stands around it.
+struct Dressed
+{
+    int base = 10;
+    const char* prefix = "";
+    const char* suffix = "";
+    const char* special = "";
+    qint64 value = 0; //!< cut to the width of the box
+
+    template <class T>
+    T valueAs() const
+    {
+        return static_cast<T>(value);
+    }
+};
+
 inline void turnWheel(QWidget& widget, int notches)
 {
     const QPointF middle = widget.rect().center();
@@ -228,6 +279,9 @@ void row(const char* name, const Values&... values)
 }
 
 } // namespace SpinBoxWords
+
+Q_DECLARE_METATYPE(SpinBoxWords::Key)
+Q_DECLARE_METATYPE(SpinBoxWords::Dressed)
 
 using namespace SpinBoxWords;
 
@@ -348,12 +402,23 @@ protected:
 
     static QValidator::State stateOf(const Box& box, QString text)
     {
-        int position = text.size();
+        int position = static_cast<int>(text.size());
         return box.validate(text, position);
     }
 
     //! Displaces the text that was examined last, which the box would answer for from memory.
     static void forgetLastText(const Box& box) { stateOf(box, QStringLiteral("~")); }
+
+    static void dress(Box& box, const Dressed& dressed)
+    {
+        box.setRange(Limits::min(), Limits::max());
+        box.setDisplayIntegerBase(dressed.base);
+        box.setPrefix(QString::fromLatin1(dressed.prefix));
+        box.setSuffix(QString::fromLatin1(dressed.suffix));
+        box.setSpecialValueText(QString::fromLatin1(dressed.special));
+        box.setValue(dressed.valueAs<T>() == T(1) ? T(2) : T(1));
+        box.setValue(dressed.valueAs<T>());
+    }
 
     //! All values of an 8-bit type; of the others those where carries, digits and signs change.
     static std::vector<T> tellingValues()
@@ -700,6 +765,77 @@ private:
         QCOMPARE(box.maximum(), T(42));
         QCOMPARE(box.value(), T(42));
         QCOMPARE(heard.take(), QStringList({textChanged("42"), valueChanged(42)}));
+    }
+
+    //! Something that a program does with a box from 5 to 50 that shows 42 in hexadecimal.
+    struct Call
+    {
+        const char* name;
+        bool changesTheValue;
+        void (*make)(Box& box);
+    };
+
+    static const std::vector<Call>& callsThatSignal()
+    {
+        static const std::vector<Call> calls = {
+            {"setValue", true, [](Box& box) { box.setValue(43); }},
+            {"setMinimum", true, [](Box& box) { box.setMinimum(43); }},
+            {"setMaximum", true, [](Box& box) { box.setMaximum(41); }},
+            {"setRange", true, [](Box& box) { box.setRange(43, 44); }},
+            {"stepBy", true, [](Box& box) { box.stepBy(1); }},
+            {"stepUp", true, [](Box& box) { box.stepUp(); }},
+            {"setPrefix", false, [](Box& box) { box.setPrefix("0x"_s); }},
+            {"setSuffix", false, [](Box& box) { box.setSuffix(" V"_s); }},
+            {"setDisplayIntegerBase", false, [](Box& box) { box.setDisplayIntegerBase(10); }},
+            {"setSingleStep, which shows an emptied number again", false, [](Box& box) {
+                 lineEditOf(box).clear();
+                 box.setSingleStep(2);
+             }}};
+        return calls;
+    }
+
+    void aSlotMayDeleteTheBox_data() override
+    {
+        QTest::addColumn<int>("call");
+        QTest::addColumn<bool>("withItsParent");
+        QTest::addColumn<bool>("byValueChanged");
+        for (std::size_t i = 0; i < callsThatSignal().size(); ++i) {
+            const Call& call = callsThatSignal().at(i);
+            for (const bool withItsParent : {false, true}) {
+                const char* const victim = withItsParent ? "the parent" : "the sender";
+                QTest::addRow("%s, textChanged deletes %s", call.name, victim)
+                    << static_cast<int>(i) << withItsParent << false;
+                if (call.changesTheValue)
+                    QTest::addRow("%s, valueChanged deletes %s", call.name, victim)
+                        << static_cast<int>(i) << withItsParent << true;
+            }
+        }
+    }
+
+    void aSlotMayDeleteTheBox() override
+    {
+        QFETCH(int, call);
+        QFETCH(bool, withItsParent);
+        QFETCH(bool, byValueChanged);
+        QWidget window;
+        auto* const parent = new QWidget(&window);
+        const QPointer<Box> box = new Box(parent);
+        box->setRange(5, 50);
+        box->setValue(42);
+        box->setDisplayIntegerBase(16);
+        QStringList told;
+        const auto tell = [&](const QString& signal, bool isTheLast) {
+            told << signal;
+            if (isTheLast && withItsParent)
+                delete parent;
+            else if (isTheLast)
+                delete box.data();
+        };
+        connect(box, &Box::textChanged, &window, [&] { tell("text"_s, !byValueChanged); });
+        connect(box, &Box::valueChanged, &window, [&] { tell("value"_s, byValueChanged); });
+        callsThatSignal().at(static_cast<std::size_t>(call)).make(*box);
+        QVERIFY(box.isNull());
+        QCOMPARE(told, byValueChanged ? QStringList({"text"_s, "value"_s}) : QStringList({"text"_s}));
     }
 
     // ---------------------------------------------------------------------------------------------- Single step
@@ -1070,17 +1206,72 @@ private:
         QCOMPARE(heard.take(), QStringList({textChanged("42"), valueChanged(42)}));
     }
 
+    //! Remembers what was painted of it.
+    struct Painted : Box
+    {
+        void paintEvent(QPaintEvent* event) override
+        {
+            region += event->region();
+            Box::paintEvent(event);
+        }
+
+        QPoint middleOf(QStyle::SubControl button) const
+        {
+            QStyleOptionSpinBox option;
+            this->initStyleOption(&option);
+            return this->style()->subControlRect(QStyle::CC_SpinBox, &option, button, this).center();
+        }
+
+        QRegion region;
+    };
+
+    void theButtonsFollowWhatOpensOrClosesTheirWay_data() override
+    {
+        QTest::addColumn<T>("value");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<T>("minimum");
+        QTest::addColumn<T>("maximum");
+        // The range is 10 to 99 before.
+        row("the maximum is typed", T(42), "99", T(10), T(99));
+        row("the minimum is typed", T(42), "10", T(10), T(99));
+        row("the maximum is left by typing", T(99), "98", T(10), T(99));
+        row("the maximum is raised", T(99), "", T(10), T(120));
+        row("the maximum comes down to the value", T(42), "", T(10), T(42));
+        row("the minimum is lowered", T(10), "", T(5), T(99));
+        row("the minimum comes up to the value", T(42), "", T(42), T(99));
+        row("the range closes around the value", T(42), "", T(42), T(42));
+    }
+
+    void theButtonsFollowWhatOpensOrClosesTheirWay() override
+    {
+        QFETCH(T, value);
+        QFETCH(QString, keys);
+        QFETCH(T, minimum);
+        QFETCH(T, maximum);
+        Painted box;
+        box.setWindowFlag(Qt::FramelessWindowHint);
+        box.resize(120, 40);
+        box.setRange(10, 99);
+        box.setValue(value);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QCoreApplication::processEvents();
+        box.region = QRegion();
+        if (!keys.isEmpty())
+            typeOver(lineEditOf(box), keys);
+        else if (minimum != 10 && maximum != 99)
+            box.setRange(minimum, maximum);
+        else if (minimum != 10)
+            box.setMinimum(minimum);
+        else
+            box.setMaximum(maximum);
+        QTRY_VERIFY(box.region.contains(box.middleOf(QStyle::SC_SpinBoxUp)));
+        QVERIFY(box.region.contains(box.middleOf(QStyle::SC_SpinBoxDown)));
+    }
+
     void aRefreshRepaintsTheButtonsAsWell() override
     {
-        struct Painted : Box
-        {
-            void paintEvent(QPaintEvent* event) override
-            {
-                region += event->region();
-                Box::paintEvent(event);
-            }
-            QRegion region;
-        } box;
+        Painted box;
         box.setWindowFlag(Qt::FramelessWindowHint);
         box.resize(120, 40);
         box.show();
@@ -1293,7 +1484,9 @@ private:
 
         // The base reads the text, also where it does not write it.
         rows(0, 99, 2, good, {"101", "1100011"});
-        rows(0, 99, 2, bad, {"2", "1100100", "0b1"});
+        rows(0, 99, 2, bad, {"2", "1100100", "0b"});
+        // A number reads as Qt reads it: Qt 5 knows no mark of base 2, Qt 6.4 does.
+        rows(0, 99, 2, QT_VERSION < QT_VERSION_CHECK(6, 4, 0) ? bad : good, {"0b1", "0B101"});
         rows(0, 99, 8, good, {"10", "143"});
         rows(0, 99, 8, bad, {"8", "144", "99"});
         rows(0, 99, 16, good, {"63", "1f", "1F", "0x10", "0X1f"});
@@ -1727,6 +1920,101 @@ private:
         QCOMPARE(heard.take(), QStringList({valueChanged(42)}));
     }
 
+    //! How a user comes to have some or all of a box selected that shows 0x2a.
+    struct Selecting
+    {
+        const char* name;
+        void (*select)(Box& box, QLineEdit& edit, QWidget& before);
+    };
+
+    static const std::vector<Selecting>& waysToSelect()
+    {
+        static const std::vector<Selecting> ways = {
+            {"Tab", [](Box&, QLineEdit&, QWidget& before) { QTest::keyClick(&before, Qt::Key_Tab); }},
+            {"Ctrl+A", [](Box&, QLineEdit& edit, QWidget&) { QTest::keySequence(&edit, QKeySequence::SelectAll); }},
+            {"a double click",
+             [](Box&, QLineEdit& edit, QWidget&) {
+                 const QPoint onTheText(8, edit.height() / 2);
+                 QTest::mouseDClick(&edit, Qt::LeftButton, Qt::NoModifier, onTheText);
+             }},
+            {"selectAll()", [](Box& box, QLineEdit&, QWidget&) { box.selectAll(); }},
+            {"a selection that ends within the prefix", [](Box& box, QLineEdit& edit, QWidget&) {
+                 box.setValue(0);
+                 QTest::keyClick(&edit, Qt::Key_End);
+                 QTest::keyClick(&edit, Qt::Key_Backspace);
+                 edit.setSelection(1, 1);
+             }}};
+        return ways;
+    }
+
+    void aPrefixThatIsTypedOverComesBackBeforeTheCursor_data() override
+    {
+        QTest::addColumn<int>("way");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<T>("value");
+        for (std::size_t i = 0; i < waysToSelect().size(); ++i) {
+            const auto add = [i](const char* keys, int value) {
+                QTest::addRow("%s after %s", keys, waysToSelect().at(i).name)
+                    << static_cast<int>(i) << QString::fromLatin1(keys) << static_cast<T>(value);
+            };
+            add("7", 0x7);
+            add("7b", 0x7b);
+            if constexpr (bits > 8) {
+                add("123", 0x123);
+                add("ab7", 0xab7);
+                add("1a2b", 0x1a2b);
+            }
+        }
+    }
+
+    void aPrefixThatIsTypedOverComesBackBeforeTheCursor() override
+    {
+        QFETCH(int, way);
+        QFETCH(QString, keys);
+        QFETCH(T, value);
+        QWidget window;
+        auto* const before = new QLineEdit(&window);
+        auto* const box = new Box(&window);
+        auto* const layout = new QVBoxLayout(&window);
+        layout->addWidget(before);
+        layout->addWidget(box);
+        box->setRange(0, Limits::max());
+        box->setDisplayIntegerBase(16);
+        box->setPrefix("0x"_s);
+        box->setValue(0x2a);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        before->setFocus();
+        QLineEdit& edit = lineEditOf(*box);
+        waysToSelect().at(static_cast<std::size_t>(way)).select(*box, edit, *before);
+        QVERIFY(edit.hasSelectedText());
+        QTest::keyClicks(&edit, keys);
+        QCOMPARE(box->text().toLower(), "0x"_s + digits(static_cast<quint64>(value), 16));
+        QCOMPARE(edit.cursorPosition(), static_cast<int>(box->text().size()));
+        QCOMPARE(box->value(), value);
+    }
+
+    void aPrefixThatIsDeletedComesBackBeforeTheCursor() override
+    {
+        Box box;
+        box.setPrefix("$"_s);
+        box.setValue(42);
+        QLineEdit& edit = lineEditOf(box);
+        Heard heard(box);
+        QTest::keySequence(&edit, QKeySequence::SelectAll);
+        QTest::keyClick(&edit, Qt::Key_Backspace);
+        QCOMPARE(box.text(), "$"_s);
+        QCOMPARE(edit.cursorPosition(), 1);
+        QTest::keyClicks(&edit, "13"_s);
+        QCOMPARE(box.text(), "$13"_s);
+        QCOMPARE(heard.take(), QStringList({valueChanged(1), valueChanged(13)}));
+        edit.setCursorPosition(1);
+        QTest::keyClick(&edit, Qt::Key_Backspace);
+        QCOMPARE(box.text(), "$13"_s);
+        QCOMPARE(edit.cursorPosition(), 1);
+        QCOMPARE(heard.take(), QStringList());
+    }
+
     void aDigitTypedBesideASuffixIsRefused() override
     {
         Box box;
@@ -1740,6 +2028,110 @@ private:
         box.stepBy(1);
         QCOMPARE(box.text(), "6 V"_s);
         QCOMPARE(heard.take(), QStringList({textChanged("6 V"), valueChanged(6)}));
+    }
+
+    void aRefusedKeyLeavesTextCursorAndSelectionAlone_data() override
+    {
+        QTest::addColumn<Dressed>("dressed");
+        QTest::addColumn<int>("start");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<Key>("key");
+        const auto type = [](const char* key) { return Key{QLatin1String(key), {}}; };
+        const Key backspace{{}, Qt::Key_Backspace};
+        const Key erase{{}, Qt::Key_Delete};
+
+        const Dressed metric{10, "", " cm", "", 5};
+        row("before a suffix", metric, 1, 0, type("7"));
+        row("before the number of a suffix", metric, 0, 0, type("7"));
+        row("behind a suffix", metric, 4, 0, type("7"));
+        row("within a suffix", metric, 3, 0, type("7"));
+        row("the number of a suffix typed over", metric, 1, -1, type("7"));
+        row("number and space of a suffix typed over", metric, 0, 2, type("7"));
+        row("a suffix typed over up to its space", metric, 2, 2, type("7"));
+        row("a wrong character over it all", metric, 0, 4, type("x"));
+        row("a number with a suffix erased", metric, 1, 0, backspace);
+        row("a suffix erased", metric, 4, 0, backspace);
+        row("a suffix erased from its front", metric, 1, 0, erase);
+        row("a selected number erased", metric, 1, -1, erase);
+        row("part of a suffix erased", metric, 2, 1, backspace);
+
+        const Dressed both{16, "0x", " h", "", 0x2a};
+        row("between prefix and suffix", both, 4, 0, type("7"));
+        row("the number between prefix and suffix", both, 4, -2, type("7"));
+        row("a prefix with a suffix erased", both, 2, 0, backspace);
+
+        const Dressed hexadecimal{16, "0x", "", "", 0x2a};
+        row("a letter that is no digit", hexadecimal, 4, 0, type("g"));
+        row("a letter that is no digit, over a digit", hexadecimal, 2, 1, type("g"));
+        row("a letter that is no digit, over it all", hexadecimal, 0, 4, type("g"));
+        row("a letter that is no digit, over it all backwards", hexadecimal, 4, -4, type("g"));
+
+        const Dressed special{10, "", "", "least", static_cast<qint64>(Limits::min())};
+        row("behind the special value text", special, 5, 0, type("7"));
+        row("within the special value text", special, 1, 2, type("7"));
+        row("the special value text erased", special, 5, 0, backspace);
+
+        // The pattern of a negative value is above the type's maximum; no value of an unsigned type is negative.
+        const auto rows = [&](const char* name, const Dressed& dressed) {
+            const QString shown = QLatin1String(dressed.prefix) + digits(pattern(dressed.valueAs<T>()), dressed.base);
+            const auto size = static_cast<int>(shown.size());
+            row(qPrintable(QLatin1String(name) + ", at its end"_s), dressed, size, 0, type("1"));
+            row(qPrintable(QLatin1String(name) + ", a wrong digit"_s), dressed, size, 0, type("z"));
+            row(qPrintable(QLatin1String(name) + ", over it all"_s), dressed, 0, size, type("z"));
+            row(qPrintable(QLatin1String(name) + ", over a digit"_s), dressed, size, -1, type("z"));
+        };
+        rows("-1 in base 16", {16, "", "", "", -1});
+        rows("-2 in base 2", {2, "", "", "", -2});
+        rows("-1 in base 16 with a prefix", {16, "0x", "", "", -1});
+        rows("the lowest in base 2 with a prefix", {2, "0b", "", "", qint64(quint64(1) << (bits - 1))});
+    }
+
+    void aRefusedKeyLeavesTextCursorAndSelectionAlone() override
+    {
+        QFETCH(Dressed, dressed);
+        QFETCH(int, start);
+        QFETCH(int, length);
+        QFETCH(Key, key);
+        Box box;
+        dress(box, dressed);
+        QLineEdit& edit = lineEditOf(box);
+        const QString text = edit.text();
+        for (int times = 1; times <= 3; ++times) {
+            edit.setSelection(start, length);
+            const QString selected = edit.selectedText();
+            const int cursor = edit.cursorPosition();
+            const int selectionStart = edit.selectionStart();
+            Heard heard(box);
+            key.press(edit);
+            QCOMPARE(edit.text(), text);
+            QCOMPARE(edit.cursorPosition(), cursor);
+            QCOMPARE(edit.selectedText(), selected);
+            QCOMPARE(edit.selectionStart(), selectionStart);
+            QCOMPARE(box.value(), dressed.valueAs<T>());
+            QCOMPARE(heard.take(), QStringList());
+        }
+    }
+
+    void whatTheBoxShowsIsAcceptableInput_data() override
+    {
+        QTest::addColumn<Dressed>("dressed");
+        row("a number", Dressed{10, "", "", "", 42});
+        row("with a prefix", Dressed{10, "$", "", "", 42});
+        row("with a suffix", Dressed{10, "", " cm", "", 42});
+        row("with both", Dressed{10, "$", " cm", "", 42});
+        row("special value text", Dressed{10, "", " cm", "least", static_cast<qint64>(Limits::min())});
+        row("-1 in base 16", Dressed{16, "0x", "", "", -1});
+        row("-1 in base 2 with a suffix", Dressed{2, "0b", " bits", "", -1});
+    }
+
+    void whatTheBoxShowsIsAcceptableInput() override
+    {
+        QFETCH(Dressed, dressed);
+        Box box;
+        dress(box, dressed);
+        QVERIFY(box.hasAcceptableInput());
+        lineEditOf(box).setText("no number"_s);
+        QVERIFY(!box.hasAcceptableInput());
     }
 
     void aTypedSpecialValueTextDoesNotReachTheValue() override
@@ -1854,6 +2246,22 @@ private:
         QCOMPARE(heard.take(), QStringList({textChanged("90"), valueChanged(90)}));
     }
 
+    void aSubclassFixesUpWhatStandsThereWhenTheFocusLeaves() override
+    {
+        struct Rounding : Box
+        {
+            void fixup(QString& text) const override { text = "10"_s; }
+        } box;
+        box.setRange(10, 90);
+        box.setValue(42);
+        Heard heard(box);
+        typeOver(lineEditOf(box), "7"_s);
+        QFocusEvent leaving(QEvent::FocusOut);
+        QApplication::sendEvent(&box, &leaving);
+        QCOMPARE(box.text(), "10"_s);
+        QCOMPARE(heard.take(), QStringList({valueChanged(10)}));
+    }
+
     void aSubclassDecidesHowAValueIsWritten() override
     {
         struct Bracketed : Box
@@ -1884,6 +2292,104 @@ private:
         QCOMPARE(heard.take(), QStringList({textChanged("51"), valueChanged(51)}));
     }
 
+    //! Can be given another line edit.
+    struct Refitted : Box
+    {
+        explicit Refitted(QLineEdit* edit = nullptr)
+        {
+            if (edit != nullptr)
+                Box::setLineEdit(edit);
+        }
+        using Box::setLineEdit;
+    };
+
+    void aSubclassMayReplaceTheLineEdit_data() override
+    {
+        QTest::addColumn<bool>("whileItIsMade");
+        row("in its constructor", true);
+        row("later on", false);
+    }
+
+    void aSubclassMayReplaceTheLineEdit() override
+    {
+        QFETCH(bool, whileItIsMade);
+        const QPointer<QLineEdit> edit = new QLineEdit;
+        Refitted box(whileItIsMade ? edit : nullptr);
+        box.setRange(0, 100);
+        box.setDisplayIntegerBase(16);
+        box.setPrefix("0x"_s);
+        box.setValue(0x2a);
+        const QPointer<QLineEdit> old = &lineEditOf(box);
+        if (!whileItIsMade) {
+            box.setLineEdit(edit);
+            QVERIFY(old.isNull());
+        }
+        QCOMPARE(edit->parentWidget(), &box);
+        QCOMPARE(box.text().toLower(), "0x2a"_s);
+        QCOMPARE(edit->text(), box.text());
+
+        Heard heard(box);
+        typeOver(*edit, "51"_s);
+        QCOMPARE(heard.take(), QStringList({valueChanged(0x5), valueChanged(0x51)}));
+        typeOver(*edit, "x"_s);
+        QTest::keyClicks(edit, "7"_s);
+        QCOMPARE(edit->text(), "0x7"_s);
+        QCOMPARE(heard.take(), QStringList({valueChanged(0x7)}));
+        box.stepBy(1);
+        QCOMPARE(edit->selectedText(), "8"_s);
+        QCOMPARE(heard.take(), QStringList({textChanged("0x8"), valueChanged(8)}));
+        box.setDisplayIntegerBase(10);
+        box.setSuffix(" V"_s);
+        QTest::keyClicks(edit, "7"_s);
+        QCOMPARE(edit->text(), "0x8 V"_s);
+        QCOMPARE(edit->selectedText(), "8"_s);
+    }
+
+    void aLineEditKeepsTheValidatorThatItBrings() override
+    {
+        auto* const edit = new QLineEdit;
+        const QRegularExpressionValidator octal(QRegularExpression("[0-7]*"_s));
+        edit->setValidator(&octal);
+        Refitted box;
+        box.setValue(12);
+        box.setLineEdit(edit);
+        QCOMPARE(edit->validator(), &octal);
+        QCOMPARE(edit->text(), "12"_s);
+        Heard heard(box);
+        typeOver(*edit, "285"_s);
+        QCOMPARE(edit->text(), "25"_s);
+        QCOMPARE(heard.take(), QStringList({valueChanged(2), valueChanged(25)}));
+    }
+
+    void theSameLineEditOrNoneReplacesNothing() override
+    {
+        Refitted box;
+        QLineEdit& edit = lineEditOf(box);
+        const QValidator* const validator = edit.validator();
+        Heard heard(box);
+        box.setLineEdit(&edit);
+        box.setLineEdit(nullptr);
+        QCOMPARE(&lineEditOf(box), &edit);
+        QCOMPARE(edit.validator(), validator);
+        typeOver(edit, "7"_s);
+        QCOMPARE(heard.take(), QStringList({valueChanged(7)}));
+    }
+
+    void theLineEditMayBeReplacedWhileItsTextIsTold() override
+    {
+        Refitted box;
+        auto* const edit = new QLineEdit;
+        connect(&box, &Box::textChanged, &box, [&] {
+            if (edit->parentWidget() == nullptr)
+                box.setLineEdit(edit);
+        });
+        box.setValue(42);
+        QCOMPARE(edit->text(), "42"_s);
+        Heard heard(box);
+        typeOver(*edit, "7"_s);
+        QCOMPARE(heard.take(), QStringList({valueChanged(7)}));
+    }
+
     // ------------------------------------------------------------------------------------------------ Stepping
 
     //! The type of exact results: 64-bit sums wrap as the unsigned box does, and the signed ones here do not wrap.
@@ -1902,8 +2408,7 @@ private:
         const Wide least = minimum;
         Wide n = own(Wide(value) + own(Wide(step) * static_cast<Wide>(steps)));
         const Wide modulus = own(Wide(maximum) - least + 1);
-        const bool spansTheType = modulus == 0 || (isSigned && modulus == static_cast<Wide>(-1));
-        if (wrapping && !spansTheType) {
+        if (wrapping && modulus != 0) {
             Wide remainder = own(n - least) % modulus;
             if constexpr (std::is_signed_v<Wide>) {
                 if (remainder < 0)
@@ -1965,15 +2470,7 @@ private:
 
     void keysWheelAndButtonsStep() override
     {
-        struct Clickable : Box
-        {
-            QPoint middleOf(QStyle::SubControl button) const
-            {
-                QStyleOptionSpinBox option;
-                this->initStyleOption(&option);
-                return this->style()->subControlRect(QStyle::CC_SpinBox, &option, button, this).center();
-            }
-        } box;
+        Painted box;
         box.resize(120, 40);
         box.setValue(50);
         Heard heard(box);

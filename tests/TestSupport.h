@@ -44,6 +44,13 @@ inline QString levelName(QtMsgType level)
     return QStringLiteral("fatal");
 }
 
+//! A list as the debug stream writes it; that of Qt 6 names the container.
+inline QString debugOfList(const QStringList& items)
+{
+    const bool named = QT_VERSION >= QT_VERSION_CHECK(6, 0, 0);
+    return QStringLiteral("%1(%2)").arg(named ? QStringLiteral("QList") : QString(), items.join(QLatin1String(", ")));
+}
+
 /*!
     Takes every message from its construction to its destruction, from any thread, instead of the handler that
     was installed before; recorders may be nested. The messages of Qt's offscreen platform are left out.

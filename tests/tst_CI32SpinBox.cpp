@@ -43,7 +43,11 @@ void tst_CI32SpinBox::aRangeWiderThanHalfTheTypeWrapsByAWrappedModulus_data()
     row("four billion, at the top", -2000000000, 2000000000, 2000000000, 1, -2000000000);
     row("four billion, at the bottom", -2000000000, 2000000000, -2000000000, -1, 2000000000);
     row("four billion, at zero: the modulus is -294967295", -2000000000, 2000000000, 0, 1, -1769803769);
-    row("all but the highest", low, high - 1, 5, 1, 6);
+    row("all but the highest: the modulus is -1 and leaves nothing", low, high - 1, 5, 1, low);
+    row("all but the highest, no steps", low, high - 1, 5, 0, low);
+    row("all but the highest, down from the minimum", low, high - 1, low, -1, low);
+    row("all but the lowest, up", low + 1, high, 5, 1, low + 1);
+    row("all but the lowest, down from the minimum", low + 1, high, low + 1, -1, low + 1);
     row("the topmost hundred, up", high - 99, high, high, 1, high - 99);
     row("the lowest hundred, down", low, low + 99, low, -1, low + 99);
 }

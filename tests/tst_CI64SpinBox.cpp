@@ -104,7 +104,10 @@ void tst_CI64SpinBox::aStepIsExactAtTheEndsOfTheType_data()
     row("half the type, up", 0LL, high, high, 1LL, 1, true, 0LL);
     row("half the type, down", 0LL, high, 0LL, 1LL, -1, true, high);
     row("the other half, up", low, 0LL, 0LL, 1LL, 1, true, low);
-    row("all but the highest", low, high - 1, 5LL, 1LL, 1, true, 6LL);
+    row("all but the highest: the modulus is -1 and leaves nothing", low, high - 1, 5LL, 1LL, 1, true, low);
+    row("all but the highest, down from the minimum", low, high - 1, low, 1LL, -1, true, low);
+    row("all but the lowest, down", low + 1, high, 5LL, 1LL, -1, true, low + 1);
+    row("all but the lowest, up from the maximum", low + 1, high, high, 1LL, 1, true, low + 1);
     row("most of the type: the modulus is -40", low + 20, high - 20, 0LL, 1LL, 1, true, low + 49);
     row("twelve quintillions", -6000000000000000000LL, 6000000000000000000LL, 0LL, 1LL, 1, true, 1LL);
     row("twelve quintillions, at the top", -6000000000000000000LL, 6000000000000000000LL, 6000000000000000000LL, 1LL, 1,

@@ -123,21 +123,28 @@ void compareRemainders()
         // A modulus of a range wider than half the type has wrapped: it is added to a negative remainder all the same.
         QCOMPARE(remainder(W(7), W(-10)), W(7));
         QCOMPARE(remainder(W(-7), W(-10)), W(-17));
+        QCOMPARE(remainder(W(7), W(-1)), W(0));
+        QCOMPARE(remainder(W(-7), W(-1)), W(0));
+        QCOMPARE(remainder(std::numeric_limits<W>::min(), W(-1)), W(0));
         QCOMPARE(remainder(W(-1), std::numeric_limits<W>::min()), std::numeric_limits<W>::max());
         QCOMPARE(remainder(std::numeric_limits<W>::min(), std::numeric_limits<W>::min()), W(0));
     }
 }
 
-template <class W>
-void compareWholeRanges()
+//! All values of a signed type but one have a modulus of -1, which leaves a remainder of nothing and no trap.
+template <class T>
+void compareWrapsOverAllValuesButOne()
 {
-    QVERIFY(IntegerStep::isWholeRange(W(0)));
-    QCOMPARE(IntegerStep::isWholeRange(static_cast<W>(-1)), std::is_signed_v<W>);
-    QVERIFY(!IntegerStep::isWholeRange(W(1)));
-    QVERIFY(!IntegerStep::isWholeRange(static_cast<W>(-2)));
-    QVERIFY(!IntegerStep::isWholeRange(std::numeric_limits<W>::max()));
-    if constexpr (std::is_signed_v<W>)
-        QVERIFY(!IntegerStep::isWholeRange(std::numeric_limits<W>::min()));
+    constexpr T low = std::numeric_limits<T>::min();
+    constexpr T high = std::numeric_limits<T>::max();
+    for (const T value : {T(low + 1), T(-1), T(0), T(5), T(high - 1)}) {
+        for (const int steps : {1, -1, 0, 10, most, least}) {
+            QCOMPARE(IntegerStep::moved(value, T(1), steps, low, T(high - 1), true), low);
+            QCOMPARE(IntegerStep::moved(value, T(7), steps, T(low + 1), high, true), T(low + 1));
+        }
+    }
+    QCOMPARE(IntegerStep::moved(low, T(0), 1, low, T(high - 1), true), low);
+    QCOMPARE(IntegerStep::moved(T(5), T(1), 1, low, T(high - 1), false), T(6));
 }
 
 template <class T>
@@ -175,7 +182,7 @@ private Q_SLOTS:
     void anAdaptiveStepIsSmallerTowardsZero();
     void anAdaptiveStepOfAnUnsignedValueIsTakenFromAllItsBits();
     void aRemainderIsMadeNonNegativeByItsModulus();
-    void aModulusOfNothingMeansTheWholeType();
+    void aStepOverAllValuesButOneGoesToTheMinimum();
     void everyStepOfAnEightBitValueAgreesWithPlainArithmetic();
     void everyStepOfASixteenBitValueAgreesWithPlainArithmetic();
     void aStepOverTheWholeTypeWrapsInTheType();
@@ -264,12 +271,10 @@ void tst_IntegerStep::aRemainderIsMadeNonNegativeByItsModulus()
     compareRemainders<unsigned long long>();
 }
 
-void tst_IntegerStep::aModulusOfNothingMeansTheWholeType()
+void tst_IntegerStep::aStepOverAllValuesButOneGoesToTheMinimum()
 {
-    compareWholeRanges<int>();
-    compareWholeRanges<unsigned int>();
-    compareWholeRanges<long long>();
-    compareWholeRanges<unsigned long long>();
+    compareWrapsOverAllValuesButOne<int>();
+    compareWrapsOverAllValuesButOne<long long>();
 }
 
 void tst_IntegerStep::everyStepOfAnEightBitValueAgreesWithPlainArithmetic()

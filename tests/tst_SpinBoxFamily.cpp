@@ -175,7 +175,11 @@ QStringList methodsOf(const QMetaObject& metaObject)
 //! The name that Qt gives \a type in a signature: uchar for unsigned char, and so on.
 QString nameInSignatures(const QString& type)
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     return QString::fromLatin1(QMetaType::typeName(QMetaType::type(qPrintable(type))));
+#else
+    return QString::fromLatin1(QMetaType::fromName(qPrintable(type)).name());
+#endif
 }
 
 } // namespace
@@ -276,6 +280,8 @@ void tst_SpinBoxFamily::eachHeaderDeclaresTheSameInTheSameOrder()
                                        "void setValue(const TYPE& nVal);"_s,
                                        "StepEnabled stepEnabled() const override;"_s,
                                        "void selectAll();"_s,
+                                       "protected:"_s,
+                                       "void setLineEdit(QLineEdit* pEdit);"_s,
                                        "private:"_s,
                                        "void editorTextChanged(const QString& sText);"_s,
                                        "void updateEdit();"_s,
@@ -297,9 +303,9 @@ void tst_SpinBoxFamily::eachHeaderDeclaresTheSameInTheSameOrder()
                                        "bool m_bCleared = false;"_s}) {
         QString text = declaration;
         text.replace("BOX"_s, relative.name).replace("TYPE"_s, relative.type);
-        const int found = header.indexOf(text, position);
+        const int found = static_cast<int>(header.indexOf(text, position));
         QVERIFY2(found >= 0, qPrintable("missing or out of order: "_s + text));
-        position = found + text.size();
+        position = found + static_cast<int>(text.size());
     }
 }
 

@@ -142,6 +142,11 @@ void CI16SpinBox::selectAll()
     SpinBoxCore::selectAll(*this);
 }
 
+void CI16SpinBox::setLineEdit(QLineEdit* pEdit)
+{
+    SpinBoxCore::setLineEdit(*this, pEdit);
+}
+
 void CI16SpinBox::editorTextChanged(const QString& sText)
 {
     SpinBoxCore::editorTextChanged(*this, sText);

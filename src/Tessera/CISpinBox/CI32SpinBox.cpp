@@ -142,6 +142,11 @@ void CI32SpinBox::selectAll()
     SpinBoxCore::selectAll(*this);
 }
 
+void CI32SpinBox::setLineEdit(QLineEdit* pEdit)
+{
+    SpinBoxCore::setLineEdit(*this, pEdit);
+}
+
 void CI32SpinBox::editorTextChanged(const QString& sText)
 {
     SpinBoxCore::editorTextChanged(*this, sText);

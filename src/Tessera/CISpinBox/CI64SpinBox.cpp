@@ -142,6 +142,11 @@ void CI64SpinBox::selectAll()
     SpinBoxCore::selectAll(*this);
 }
 
+void CI64SpinBox::setLineEdit(QLineEdit* pEdit)
+{
+    SpinBoxCore::setLineEdit(*this, pEdit);
+}
+
 void CI64SpinBox::editorTextChanged(const QString& sText)
 {
     SpinBoxCore::editorTextChanged(*this, sText);

@@ -7,6 +7,10 @@
 #include <QString>
 #include <QValidator>
 
+QT_BEGIN_NAMESPACE
+class QLineEdit;
+QT_END_NAMESPACE
+
 namespace nsUI {
 
 class SpinBoxCore;
@@ -28,7 +32,12 @@ class SpinBoxCore;
     - The size hint does not know the range. Give the box a minimum width, or let its layout do so.
     - Like every spin box of Qt it steps on a mouse wheel without having the focus.
     - setSpecialValueText() refreshes nothing: the text shows with the next change.
-    - A prefix that is typed over comes back, but the cursor does not move behind it.
+    - A slot may delete the box, or its parent, where the program's own call is what sends the signal. While the user
+      types, steps or presses Enter, Qt goes on with the box after the signal: there, call deleteLater().
+    - A prefix or suffix that is typed over comes back around what is typed. A key that is refused leaves text, cursor
+      and selection as they were. What the box itself shows is always acceptable input, even where validate() refuses
+      it: with a suffix, and a negative value in base 2 or 16.
+    - There is no user property, and assistive technology finds a text but no value: connect valueChanged().
 */
 class TESSERA_EXPORT CI64SpinBox : public QAbstractSpinBox
 {
@@ -103,7 +112,8 @@ public:
         The sum wraps in the type's own 64 bits before it is brought into the range: a step beyond the type's limit
         comes in from the other side. With wrapping() the value wraps within the range; over a range as wide as the
         type it wraps in the type. The remainder is taken in the type's own arithmetic: in 32 and 64 bits, a signed
-        range wider than half the type and a step below an unsigned range do not simply count round.
+        range wider than half the type and a step below an unsigned range do not simply count round, and over all of
+        the type's values but one a step goes to the minimum.
     */
     void stepBy(int nSteps) override;
 
@@ -130,6 +140,16 @@ public Q_SLOTS:
 
     //! Selects the number without prefix and suffix; the special value text whole.
     void selectAll();
+
+protected:
+    /*!
+        Takes \a pEdit in the place of the line edit, which is deleted. The new one belongs to the box and shows the
+        value at once; what is typed into it reaches the value, and the box validates it unless it brings a validator
+        of its own. Nothing happens when \a pEdit is null or the line edit already.
+
+        QAbstractSpinBox::setLineEdit() knows nothing of the value: a line edit that is set there is cut off from it.
+    */
+    void setLineEdit(QLineEdit* pEdit);
 
 private:
     friend class SpinBoxCore;

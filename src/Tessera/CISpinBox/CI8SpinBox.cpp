@@ -142,6 +142,11 @@ void CI8SpinBox::selectAll()
     SpinBoxCore::selectAll(*this);
 }
 
+void CI8SpinBox::setLineEdit(QLineEdit* pEdit)
+{
+    SpinBoxCore::setLineEdit(*this, pEdit);
+}
+
 void CI8SpinBox::editorTextChanged(const QString& sText)
 {
     SpinBoxCore::editorTextChanged(*this, sText);

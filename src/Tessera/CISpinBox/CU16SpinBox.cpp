@@ -142,6 +142,11 @@ void CU16SpinBox::selectAll()
     SpinBoxCore::selectAll(*this);
 }
 
+void CU16SpinBox::setLineEdit(QLineEdit* pEdit)
+{
+    SpinBoxCore::setLineEdit(*this, pEdit);
+}
+
 void CU16SpinBox::editorTextChanged(const QString& sText)
 {
     SpinBoxCore::editorTextChanged(*this, sText);

@@ -142,6 +142,11 @@ void CU32SpinBox::selectAll()
     SpinBoxCore::selectAll(*this);
 }
 
+void CU32SpinBox::setLineEdit(QLineEdit* pEdit)
+{
+    SpinBoxCore::setLineEdit(*this, pEdit);
+}
+
 void CU32SpinBox::editorTextChanged(const QString& sText)
 {
     SpinBoxCore::editorTextChanged(*this, sText);

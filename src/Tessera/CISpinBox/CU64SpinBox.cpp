@@ -142,6 +142,11 @@ void CU64SpinBox::selectAll()
     SpinBoxCore::selectAll(*this);
 }
 
+void CU64SpinBox::setLineEdit(QLineEdit* pEdit)
+{
+    SpinBoxCore::setLineEdit(*this, pEdit);
+}
+
 void CU64SpinBox::editorTextChanged(const QString& sText)
 {
     SpinBoxCore::editorTextChanged(*this, sText);

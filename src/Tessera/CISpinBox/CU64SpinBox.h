@@ -7,6 +7,10 @@
 #include <QString>
 #include <QValidator>
 
+QT_BEGIN_NAMESPACE
+class QLineEdit;
+QT_END_NAMESPACE
+
 namespace nsUI {
 
 class SpinBoxCore;
@@ -28,7 +32,12 @@ class SpinBoxCore;
     - The size hint does not know the range. Give the box a minimum width, or let its layout do so.
     - Like every spin box of Qt it steps on a mouse wheel without having the focus.
     - setSpecialValueText() refreshes nothing: the text shows with the next change.
-    - A prefix that is typed over comes back, but the cursor does not move behind it.
+    - A slot may delete the box, or its parent, where the program's own call is what sends the signal. While the user
+      types, steps or presses Enter, Qt goes on with the box after the signal: there, call deleteLater().
+    - A prefix or suffix that is typed over comes back around what is typed. A key that is refused leaves text, cursor
+      and selection as they were. What the box itself shows is always acceptable input, even where validate() refuses
+      it: with a suffix, and a negative value in base 2 or 16.
+    - There is no user property, and assistive technology finds a text but no value: connect valueChanged().
 */
 class TESSERA_EXPORT CU64SpinBox : public QAbstractSpinBox
 {
@@ -129,6 +138,16 @@ public Q_SLOTS:
 
     //! Selects the number without prefix and suffix; the special value text whole.
     void selectAll();
+
+protected:
+    /*!
+        Takes \a pEdit in the place of the line edit, which is deleted. The new one belongs to the box and shows the
+        value at once; what is typed into it reaches the value, and the box validates it unless it brings a validator
+        of its own. Nothing happens when \a pEdit is null or the line edit already.
+
+        QAbstractSpinBox::setLineEdit() knows nothing of the value: a line edit that is set there is cut off from it.
+    */
+    void setLineEdit(QLineEdit* pEdit);
 
 private:
     friend class SpinBoxCore;

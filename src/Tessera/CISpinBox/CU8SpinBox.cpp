@@ -142,6 +142,11 @@ void CU8SpinBox::selectAll()
     SpinBoxCore::selectAll(*this);
 }
 
+void CU8SpinBox::setLineEdit(QLineEdit* pEdit)
+{
+    SpinBoxCore::setLineEdit(*this, pEdit);
+}
+
 void CU8SpinBox::editorTextChanged(const QString& sText)
 {
     SpinBoxCore::editorTextChanged(*this, sText);

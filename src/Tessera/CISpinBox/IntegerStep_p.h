@@ -45,23 +45,18 @@ template <class W>
 W remainder(W nOffset, W nModulus)
 {
     using Bits = std::make_unsigned_t<W>;
+    if constexpr (std::is_signed_v<W>) {
+        if (nModulus == -1) // of all values but one: it leaves nothing, but the lowest value's division would trap
+            return 0;
+    }
     const W nRemainder = static_cast<W>(nOffset % nModulus);
     return nRemainder < 0 ? static_cast<W>(static_cast<Bits>(nRemainder) + static_cast<Bits>(nModulus)) : nRemainder;
 }
 
-//! True where a range has no usable modulus: the value then simply wraps in its own type.
-template <class W>
-bool isWholeRange(W nModulus)
-{
-    if constexpr (std::is_signed_v<W>)
-        return nModulus == 0 || nModulus == -1;
-    else
-        return nModulus == 0;
-}
-
 /*!
     \a nVal moved by \a nSteps times \a nStep, wrapped into the range if \a wrapping, then truncated to T and not yet
-    clamped: a sum beyond the type's limits comes out on its other side.
+    clamped: a sum beyond the type's limits comes out on its other side. A range of all values has the modulus 0 and
+    needs none: the sum has wrapped in the type.
 */
 template <class T>
 T moved(T nVal, T nStep, int nSteps, T nMinimum, T nMaximum, bool wrapping)
@@ -73,7 +68,7 @@ T moved(T nVal, T nStep, int nSteps, T nMinimum, T nMaximum, bool wrapping)
     Bits nMoved = bits(nVal) + bits(nStep) * bits(nSteps);
     if (wrapping) {
         const W nModulus = static_cast<W>(bits(nMaximum) - bits(nMinimum) + 1);
-        if (!isWholeRange(nModulus))
+        if (nModulus != 0)
             nMoved = bits(nMinimum) + bits(remainder(static_cast<W>(nMoved - bits(nMinimum)), nModulus));
     }
     return static_cast<T>(nMoved);

@@ -5,7 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringRef>
+#include <QStringView>
 #include <QtEndian>
 
 #include <limits>
@@ -79,40 +79,52 @@ inline int digit(QChar c)
 
 /*!
     Reads a text of nothing but digits: what is typed nearly always is, and Qt's general parser takes several times
-    as long. False, which says nothing about the text, for signs, prefixes and numbers near the limit of 64 bits.
+    as long. False, which says nothing about the text, for signs, prefixes and numbers of more than 64 bits.
 */
-inline bool plainDigits(const QStringRef& sText, int nBase, qulonglong* pVal)
+inline bool plainDigits(QStringView sText, int nBase, qulonglong* pVal)
 {
-    const qulonglong nLimit = std::numeric_limits<qlonglong>::max() / static_cast<qulonglong>(nBase) - 1;
+    const auto nFactor = static_cast<qulonglong>(nBase);
+    const qulonglong nLimit = std::numeric_limits<qulonglong>::max() / nFactor;
     qulonglong nVal = 0;
     for (const QChar c : sText) {
         const int nDigit = digit(c);
         if (nDigit < 0 || nDigit >= nBase || nVal > nLimit)
             return false;
-        nVal = nVal * static_cast<qulonglong>(nBase) + static_cast<qulonglong>(nDigit);
+        const qulonglong nShifted = nVal * nFactor;
+        nVal = nShifted + static_cast<qulonglong>(nDigit);
+        if (nVal < nShifted)
+            return false;
     }
     *pVal = nVal;
     return !sText.isEmpty();
 }
 
+//! Reads \a sText in \a nBase by Qt's rules for the C locale. Qt 5 copies the text for this.
+template <class T>
+bool toValueByQt(QStringView sText, int nBase, T* pVal)
+{
+    bool ok = false;
+    if constexpr (std::is_signed_v<T>) {
+        const qlonglong nParsed = sText.toLongLong(&ok, nBase);
+        *pVal = static_cast<T>(nParsed);
+        return ok && *pVal == nParsed;
+    } else {
+        const qulonglong nParsed = sText.toULongLong(&ok, nBase);
+        *pVal = static_cast<T>(nParsed);
+        return ok && *pVal == nParsed;
+    }
+}
+
 //! Reads \a sText in \a nBase by the C locale's rules. False when it is no number or does not fit T.
 template <class T>
-bool toValue(const QStringRef& sText, int nBase, T* pVal)
+bool toValue(QStringView sText, int nBase, T* pVal)
 {
-    using Parsed = std::conditional_t<std::is_signed_v<T>, qlonglong, qulonglong>;
-    bool ok = false;
-    Parsed nParsed = 0;
-    qulonglong nPlain = 0;
-    if (plainDigits(sText, nBase, &nPlain)) {
-        ok = true;
-        nParsed = static_cast<Parsed>(nPlain);
-    } else if constexpr (std::is_signed_v<T>) {
-        nParsed = sText.toLongLong(&ok, nBase);
-    } else {
-        nParsed = sText.toULongLong(&ok, nBase);
-    }
-    *pVal = static_cast<T>(nParsed);
-    return ok && *pVal == nParsed;
+    const bool negative = std::is_signed_v<T> && sText.startsWith(QLatin1Char('-'));
+    qulonglong nMagnitude = 0;
+    if (!plainDigits(sText.mid(negative ? 1 : 0), nBase, &nMagnitude))
+        return toValueByQt(sText, nBase, pVal);
+    *pVal = static_cast<T>(negative ? 0 - nMagnitude : nMagnitude);
+    return nMagnitude <= static_cast<qulonglong>(std::numeric_limits<T>::max()) + (negative ? 1 : 0);
 }
 
 } // namespace IntegerText

@@ -3,12 +3,14 @@
 
 #include "IntegerStep_p.h"
 #include "IntegerText_p.h"
+#include "SpinBoxValidator_p.h"
 
 #include <QAbstractSpinBox>
 #include <QLineEdit>
+#include <QPointer>
 #include <QString>
 #include <QStringBuilder>
-#include <QStringRef>
+#include <QStringView>
 #include <QValidator>
 
 #include <type_traits>
@@ -19,7 +21,8 @@ namespace nsUI {
     What the eight integer spin boxes have in common, once. Each box befriends this class and hands its work over
     with itself as the first argument; value types are those of the box's own members.
 
-    Every change of the value goes the same way: store, refresh the line edit, emit valueChanged().
+    Every change of the value goes the same way: store, refresh the line edit, emit valueChanged(). A slot of either
+    signal may delete the box: whoever goes on with it after a signal looks first whether it is still there.
 */
 class SpinBoxCore
 {
@@ -28,8 +31,20 @@ public:
     static void init(Box& box)
     {
         box.setInputMethodHints(Qt::ImhDigitsOnly);
-        box.updateEdit();
-        QObject::connect(box.lineEdit(), &QLineEdit::textChanged, &box, &Box::editorTextChanged);
+        setValidator(box, *box.lineEdit());
+        attach(box, *box.lineEdit());
+    }
+
+    template <class Box>
+    static void setLineEdit(Box& box, QLineEdit* pEdit)
+    {
+        if (pEdit == nullptr || pEdit == box.lineEdit())
+            return;
+        const bool bringsValidator = pEdit->validator() != nullptr;
+        box.QAbstractSpinBox::setLineEdit(pEdit);
+        if (!bringsValidator)
+            setValidator(box, *pEdit);
+        attach(box, *pEdit);
     }
 
     template <class Box, class T>
@@ -39,7 +54,11 @@ public:
         if (nBounded == box.m_nValue)
             return;
         box.m_nValue = nBounded;
+        box.update(); // its buttons, also where the text is right already
+        const QPointer<Box> pBox(&box);
         box.updateEdit();
+        if (pBox.isNull())
+            return;
         const T nStored = box.m_nValue; // not a reference to the member: a slot may change that
         Q_EMIT box.valueChanged(nStored);
     }
@@ -52,7 +71,7 @@ public:
         box.m_nMinimum = nVal;
         if (nVal > box.m_nMaximum)
             box.m_nMaximum = nVal;
-        setValue(box, box.m_nValue);
+        followRange(box);
     }
 
     template <class Box, class T>
@@ -63,7 +82,7 @@ public:
         box.m_nMaximum = nVal;
         if (box.m_nMinimum > nVal)
             box.m_nMinimum = nVal;
-        setValue(box, box.m_nValue);
+        followRange(box);
     }
 
     template <class Box, class T>
@@ -73,7 +92,7 @@ public:
             return;
         box.m_nMaximum = nMax;
         box.m_nMinimum = nMin;
-        setValue(box, box.m_nValue);
+        followRange(box);
     }
 
     template <class Box, class T>
@@ -130,11 +149,16 @@ public:
         const int nSelected = pEdit->selectionLength();
         const bool wasBlocked = pEdit->blockSignals(true);
         pEdit->setText(sNew);
+        const QPointer<Box> pBox(&box);
+        const QPointer<QLineEdit> pBlocked(pEdit); // the slot may put another one in its place
         Q_EMIT box.textChanged(sNew);
+        if (pBox.isNull())
+            return;
         if (!box.specialValue())
             placeCursor(box, wasEmpty, nCursor, nSelected);
         box.update();
-        pEdit->blockSignals(wasBlocked);
+        if (!pBlocked.isNull())
+            pBlocked->blockSignals(wasBlocked);
     }
 
     /*!
@@ -142,14 +166,14 @@ public:
        suffix is never taken off. \a pPos moves by the number of characters that were trimmed.
     */
     template <class Box>
-    static QStringRef stripped(const Box& box, const QString& sText, int* pPos)
+    static QStringView stripped(const Box& box, const QString& sText, int* pPos)
     {
-        QStringRef sRest(&sText);
+        QStringView sRest = view(sText);
         if (!box.m_sPrefix.isEmpty() && !isSpecialText(box, sText))
             sRest = withoutPrefix(sText, box.m_sPrefix);
-        const QStringRef sTrimmed = sRest.trimmed();
+        const QStringView sTrimmed = sRest.trimmed();
         if (pPos != nullptr)
-            *pPos -= sRest.size() - sTrimmed.size();
+            *pPos -= static_cast<int>(sRest.size() - sTrimmed.size());
         return sTrimmed;
     }
 
@@ -163,7 +187,7 @@ public:
             return box.m_nCachedValue;
         }
 
-        const QStringRef sCopy = stripped(box, sInput, &nPos);
+        const QStringView sCopy = stripped(box, sInput, &nPos);
         auto nVal = box.m_nValue;
         state = examined(box, sCopy, &nVal);
         if (state != QValidator::Acceptable)
@@ -203,8 +227,10 @@ public:
         const auto nStep = box.m_stepType == QAbstractSpinBox::AdaptiveDecimalStepType
                                ? IntegerStep::adaptive(box.m_nValue, nSteps)
                                : box.m_nSingleStep;
+        const QPointer<Box> pBox(&box);
         setValue(box, IntegerStep::moved(box.m_nValue, nStep, nSteps, box.m_nMinimum, box.m_nMaximum, box.wrapping()));
-        box.selectAll();
+        if (!pBox.isNull())
+            box.selectAll();
     }
 
     template <class Box>
@@ -227,11 +253,25 @@ public:
             pEdit->selectAll();
             return;
         }
-        const int nEnd = pEdit->displayText().size() - box.m_sSuffix.size();
-        pEdit->setSelection(nEnd, box.m_sPrefix.size() - nEnd);
+        const int nEnd = static_cast<int>(pEdit->displayText().size() - box.m_sSuffix.size());
+        pEdit->setSelection(nEnd, static_cast<int>(box.m_sPrefix.size()) - nEnd);
     }
 
 private:
+    template <class Box>
+    static void setValidator(const Box& box, QLineEdit& edit)
+    {
+        edit.setValidator(new SpinBoxValidator<Box>(box, &edit));
+    }
+
+    //! From here on the line edit shows the value, and what is typed into it is read.
+    template <class Box>
+    static void attach(Box& box, QLineEdit& edit)
+    {
+        QObject::connect(&edit, &QLineEdit::textChanged, &box, &Box::editorTextChanged);
+        box.updateEdit();
+    }
+
     template <class T>
     static bool isNegative(T nVal)
     {
@@ -248,14 +288,24 @@ private:
         return box.m_nMinimum < nBelow ? nBelow : box.m_nMinimum;
     }
 
+    //! A new range may open or close the way of a button without moving the value.
+    template <class Box>
+    static void followRange(Box& box)
+    {
+        box.update();
+        setValue(box, box.m_nValue);
+    }
+
     template <class Box>
     static void setAffix(Box& box, QString& sMember, const QString& sNew)
     {
         if (sNew == sMember)
             return;
         sMember = sNew;
+        const QPointer<Box> pBox(&box);
         box.updateEdit();
-        box.updateGeometry();
+        if (!pBox.isNull())
+            box.updateGeometry();
     }
 
     template <class Box>
@@ -268,10 +318,10 @@ private:
 
     //! True when \a sInput already is the prefix, \a sCopy (a part of it) and the suffix.
     template <class Box>
-    static bool isDecorated(const Box& box, const QString& sInput, const QStringRef& sCopy)
+    static bool isDecorated(const Box& box, const QString& sInput, QStringView sCopy)
     {
-        return sCopy.position() == box.m_sPrefix.size() &&
-               sCopy.position() + sCopy.size() + box.m_sSuffix.size() == sInput.size() &&
+        const qsizetype nPosition = sCopy.data() - sInput.constData();
+        return nPosition == box.m_sPrefix.size() && nPosition + sCopy.size() + box.m_sSuffix.size() == sInput.size() &&
                sInput.startsWith(box.m_sPrefix) && sInput.endsWith(box.m_sSuffix);
     }
 
@@ -282,26 +332,31 @@ private:
         return !sSpecial.isEmpty() && sText == sSpecial;
     }
 
+    //! \a sText whole; unlike QStringView's own conversion it has a place in a null text, too.
+    static QStringView view(const QString& sText) { return QStringView(sText.constData(), sText.size()); }
+
     // The end is compared with the prefix too: a text that is wrapped in it on both sides loses both.
-    static QStringRef withoutPrefix(const QString& sText, const QString& sPrefix)
+    static QStringView withoutPrefix(const QString& sText, const QString& sPrefix)
     {
-        int nFrom = 0;
-        int nSize = sText.size();
+        qsizetype nFrom = 0;
+        qsizetype nSize = sText.size();
         if (sText.startsWith(sPrefix)) {
             nFrom = sPrefix.size();
             nSize -= sPrefix.size();
         }
         if (sText.endsWith(sPrefix))
             nSize -= sPrefix.size();
-        return sText.midRef(nFrom, nSize);
+        // A prefix that is counted twice leaves less than nothing: QString::mid() takes all the rest then.
+        return nSize < 0 ? view(sText).mid(nFrom) : view(sText).mid(nFrom, nSize);
     }
 
     template <class Box>
     static void placeCursor(Box& box, bool wasEmpty, int nOldCursor, int nSelected)
     {
         QLineEdit* const pEdit = box.lineEdit();
-        const int nFirst = box.m_sPrefix.size();
-        const int nCursor = qBound(nFirst, nOldCursor, pEdit->displayText().size() - box.m_sSuffix.size());
+        const int nFirst = static_cast<int>(box.m_sPrefix.size());
+        const int nLast = static_cast<int>(pEdit->displayText().size() - box.m_sSuffix.size());
+        const int nCursor = qBound(nFirst, nOldCursor, nLast);
         if (nSelected > 0)
             pEdit->setSelection(nCursor, nSelected);
         else
@@ -310,7 +365,7 @@ private:
 
     //! The state of a text without its prefix, and its value where it is Acceptable.
     template <class Box, class T>
-    static QValidator::State examined(const Box& box, const QStringRef& sText, T* pVal)
+    static QValidator::State examined(const Box& box, QStringView sText, T* pVal)
     {
         const bool startsWithMinus = sText.startsWith(QLatin1Char('-'));
         if (box.m_nMaximum != box.m_nMinimum) {
