@@ -4,11 +4,17 @@
 #include <Tessera/widgets/CDSpinBox.h>
 
 #include <QApplication>
+#include <QClipboard>
+#include <QFocusEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMetaEnum>
 #include <QMetaMethod>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QStyle>
@@ -17,6 +23,8 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <cstring>
+#include <limits>
 #include <type_traits>
 
 using nsUI::CDSpinBox;
@@ -25,6 +33,10 @@ using TestSupport::MessageRecorder;
 Q_DECLARE_METATYPE(QValidator::State)
 Q_DECLARE_METATYPE(nsUI::CDSpinBox::StepType)
 
+//! A way for the user to leave a box.
+using Leave = void (*)(QWidget&);
+Q_DECLARE_METATYPE(Leave)
+
 namespace {
 
 //! Shows what a subclass may see, and counts how often the text of the current value is asked for.
@@ -32,6 +44,7 @@ class Probe : public CDSpinBox
 {
 public:
     using CDSpinBox::CDSpinBox;
+    using CDSpinBox::setLineEdit;
     using QAbstractSpinBox::initStyleOption;
     using QAbstractSpinBox::lineEdit;
 
@@ -59,6 +72,16 @@ QString decorated(const CDSpinBox& box)
     return box.prefix() + box.suffix() + QLatin1Char(' ') + box.textFromValue(box.value());
 }
 
+//! What Qt 5 calls the smallest size of a control; Qt 6 has none.
+QSize globalStrut()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QApplication::globalStrut();
+#else
+    return QSize(0, 0);
+#endif
+}
+
 //! What the style makes of a content of the given width in a spin box.
 QSize styled(const Probe& box, int nWidth, int nHeight)
 {
@@ -66,7 +89,52 @@ QSize styled(const Probe& box, int nWidth, int nHeight)
     box.initStyleOption(&option);
     return box.style()
         ->sizeFromContents(QStyle::CT_SpinBox, &option, QSize(nWidth, nHeight), &box)
-        .expandedTo(QApplication::globalStrut());
+        .expandedTo(globalStrut());
+}
+
+//! Replaces everything that the line edit shows in a single change.
+void pasteOver(QLineEdit& edit, const QString& sText)
+{
+    QApplication::clipboard()->setText(sText);
+    edit.selectAll();
+    QTest::keySequence(&edit, QKeySequence::Paste);
+}
+
+struct Leaving
+{
+    const char* name;
+    Leave leave;
+};
+
+const QVector<Leaving>& waysToLeave()
+{
+    static const QVector<Leaving> ways = {
+        {"Return", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); }},
+        {"Enter", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Enter, Qt::KeypadModifier); }},
+        {"loss of focus",
+         [](QWidget& box) {
+             QFocusEvent event(QEvent::FocusOut);
+             QApplication::sendEvent(&box, &event);
+         }},
+        {"another window",
+         [](QWidget& box) {
+             QEvent event(QEvent::ActivationChange);
+             QApplication::sendEvent(&box, &event);
+         }},
+        {"hiding", [](QWidget& box) { box.hide(); }},
+        {"closing", [](QWidget& box) { box.close(); }},
+        {"a refused key and loss of focus", [](QWidget& box) {
+             QTest::keyClick(&box, Qt::Key_X);
+             QFocusEvent event(QEvent::FocusOut);
+             QApplication::sendEvent(&box, &event);
+         }}};
+    return ways;
+}
+
+//! Equal in every bit, the sign of zero included.
+bool isSame(double a, double b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
 QList<double> firstArguments(const QSignalSpy& spy)
@@ -110,6 +178,24 @@ private Q_SLOTS:
     void refusesToBeCleared();
     void takesDigitsThatKeepItInTheRange();
     void refusesEveryEditWithAPrefixOrASuffix();
+    void leavesTextCursorAndSelectionAloneWhenItRefusesAKey_data();
+    void leavesTextCursorAndSelectionAloneWhenItRefusesAKey();
+    void refusesWhatIsNoFiniteNumber_data();
+    void refusesWhatIsNoFiniteNumber();
+    void showsAnInfiniteValueOfItsRange();
+
+    void keepsAValueThatIsNotTouched_data();
+    void keepsAValueThatIsNotTouched();
+    void keepsAValueThatWasTypedWithMorePlacesThanItShows();
+    void keepsAValueWhoseTextItRefusesItself_data();
+    void keepsAValueWhoseTextItRefusesItself();
+    void keepsTheValueAndShowsTheNewFormatOnEnter_data();
+    void keepsTheValueAndShowsTheNewFormatOnEnter();
+    void tellsAnUntouchedValueOnEnterAsQtDoes_data();
+    void tellsAnUntouchedValueOnEnterAsQtDoes();
+    void stepsFromTheValueAndNotFromItsText();
+    void readsAnEditedTextOnEnter_data();
+    void readsAnEditedTextOnEnter();
 
     void numbersItsStepTypesLikeQt();
     void keepsTheStepTypeInTheBaseClass_data();
@@ -122,6 +208,11 @@ private Q_SLOTS:
     void selectsNothingAfterARatioStep();
     void stepsByTheRatioOnTheArrowAndPageKeys();
 
+    void survivesASlotThatDeletesIt_data();
+    void survivesASlotThatDeletesIt();
+    void letsASubclassReplaceTheLineEdit();
+    void leavesALineEditTheValidatorThatItBrings();
+
     void hintsAtTheWidthOfTheCurrentValue_data();
     void hintsAtTheWidthOfTheCurrentValue();
     void hintsAtTheExactWidthOfTheWrittenExample();
@@ -130,7 +221,9 @@ private Q_SLOTS:
     void hintIsNotCutToALength();
     void hintIsComputedAfreshOnEveryCall();
     void hintMeasuresTheCurrentValueTwice();
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // Qt 6 has no strut
     void hintIsNeverSmallerThanTheGlobalStrut();
+#endif
 
 private:
     QScopedPointer<MessageRecorder> m_pLog;
@@ -386,7 +479,7 @@ void tst_CDSpinBox::validatesTheWholeTextAgainstTheRange()
     box.setRange(-10, 100);
     box.setPrefix(prefix);
     box.setSuffix(suffix);
-    int nPos = text.size();
+    int nPos = static_cast<int>(text.size());
     QCOMPARE(box.validate(text, nPos), state);
 
     // Towards a positive minimum, or a negative maximum, nothing is Intermediate either.
@@ -454,6 +547,366 @@ void tst_CDSpinBox::refusesEveryEditWithAPrefixOrASuffix()
         QTest::keyClick(&box, Qt::Key_Return);
         QCOMPARE(box.text(), sBefore);
         QCOMPARE(box.value(), 5.0);
+    }
+}
+
+void tst_CDSpinBox::leavesTextCursorAndSelectionAloneWhenItRefusesAKey_data()
+{
+    QTest::addColumn<QString>("prefix");
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<char>("format");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<int>("key");
+
+    const QString none;
+    const QString sVolt = QStringLiteral(" V");
+    const QString sSign = QStringLiteral("U=");
+    // The value is 5 in the range 0 to 99.95; in the format 'e' it is 99.95, and the text 1.0e+02 is beyond that.
+    QTest::newRow("a letter") << none << none << 'f' << 1 << 0 << int(Qt::Key_X);
+    QTest::newRow("a letter over all") << none << none << 'f' << 0 << 3 << int(Qt::Key_X);
+    QTest::newRow("a second point") << none << none << 'f' << 3 << 0 << int(Qt::Key_Period);
+    QTest::newRow("everything erased") << none << none << 'f' << 3 << -3 << int(Qt::Key_Delete);
+    QTest::newRow("a digit before a suffix") << none << sVolt << 'f' << 3 << 0 << int(Qt::Key_2);
+    QTest::newRow("a digit over number and suffix") << none << sVolt << 'f' << 0 << 5 << int(Qt::Key_2);
+    QTest::newRow("part of a suffix erased") << none << sVolt << 'f' << 4 << 1 << int(Qt::Key_Backspace);
+    QTest::newRow("a digit behind a prefix") << sSign << none << 'f' << 2 << 0 << int(Qt::Key_2);
+    QTest::newRow("a digit over prefix and number") << sSign << none << 'f' << 0 << 5 << int(Qt::Key_2);
+    QTest::newRow("a digit between both") << sSign << sVolt << 'f' << 3 << 0 << int(Qt::Key_2);
+    QTest::newRow("a digit beside a text beyond the maximum") << none << none << 'e' << 7 << 0 << int(Qt::Key_2);
+    QTest::newRow("a letter over a text beyond the maximum") << none << none << 'e' << 0 << 7 << int(Qt::Key_X);
+}
+
+void tst_CDSpinBox::leavesTextCursorAndSelectionAloneWhenItRefusesAKey()
+{
+    QFETCH(const QString, prefix);
+    QFETCH(const QString, suffix);
+    QFETCH(const char, format);
+    QFETCH(const int, start);
+    QFETCH(const int, length);
+    QFETCH(const int, key);
+    Probe box;
+    box.setMaximum(99.95);
+    box.setValue(format == 'e' ? 99.95 : 5);
+    box.setDecimals(2);
+    const double value = box.value();
+    box.setPrefix(prefix);
+    box.setSuffix(suffix);
+    box.setFmtChar(QLatin1Char(format));
+    box.setDecimals(format == 'e' ? 2 : 1);
+    const QString sText = box.text();
+    QSignalSpy spy(&box, qOverload<double>(&CDSpinBox::valueChanged));
+    QVERIFY(spy.isValid());
+    QLineEdit& edit = *box.lineEdit();
+    for (int nTimes = 0; nTimes < 3; ++nTimes) {
+        edit.setSelection(start, length);
+        const int nCursor = edit.cursorPosition();
+        const QString sSelected = edit.selectedText();
+        QTest::keyClick(&edit, Qt::Key(key));
+        QCOMPARE(edit.text(), sText);
+        QCOMPARE(edit.cursorPosition(), nCursor);
+        QCOMPARE(edit.selectedText(), sSelected);
+    }
+    QCOMPARE(box.value(), value);
+    QCOMPARE(spy.count(), 0);
+}
+
+void tst_CDSpinBox::refusesWhatIsNoFiniteNumber_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char* const text : {"nan", "NaN", "NAN", "inf", "Inf", "+inf", "-inf", "infinity"}) {
+        QTest::newRow(text) << QString::fromLatin1(text);
+    }
+}
+
+void tst_CDSpinBox::refusesWhatIsNoFiniteNumber()
+{
+    QFETCH(const QString, text);
+    const double infinite = std::numeric_limits<double>::infinity();
+    for (const double bound : {99.0, infinite}) {
+        Probe box;
+        box.setRange(-bound, bound);
+        box.setValue(5);
+        QSignalSpy spy(&box, qOverload<double>(&CDSpinBox::valueChanged));
+        QVERIFY(spy.isValid());
+        QLineEdit& edit = *box.lineEdit();
+        pasteOver(edit, text);
+        QCOMPARE(edit.text(), QStringLiteral("5.00"));
+        QCOMPARE(edit.selectedText(), QStringLiteral("5.00"));
+        QCOMPARE(edit.cursorPosition(), 4);
+        QTest::keyClick(&edit, Qt::Key_Return);
+        QCOMPARE(box.value(), 5.0);
+        for (const QList<QVariant>& arguments : qAsConst(spy)) {
+            QCOMPARE(arguments.at(0).toDouble(), 5.0); // Enter tells the value again
+        }
+    }
+}
+
+void tst_CDSpinBox::showsAnInfiniteValueOfItsRange()
+{
+    const double infinite = std::numeric_limits<double>::infinity();
+    Probe box;
+    box.setMaximum(infinite);
+    box.setValue(infinite);
+    QCOMPARE(box.text(), QStringLiteral("inf"));
+    QTest::keyClicks(&box, QStringLiteral("x"));
+    QCOMPARE(box.text(), QStringLiteral("inf"));
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.value(), infinite);
+    box.lineEdit()->selectAll();
+    QTest::keyClicks(&box, QStringLiteral("7"));
+    QCOMPARE(box.value(), 7.0);
+
+    // A word for a value of its own is no number either.
+    box.setMinimum(0);
+    box.setSpecialValueText(QStringLiteral("inf"));
+    box.setValue(0);
+    QCOMPARE(box.text(), QStringLiteral("inf"));
+    QVERIFY(box.hasAcceptableInput());
+}
+
+void tst_CDSpinBox::keepsAValueThatIsNotTouched_data()
+{
+    QTest::addColumn<char>("format");
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<bool>("tracking");
+    QTest::addColumn<Leave>("leave");
+
+    for (const Leaving& leaving : waysToLeave()) {
+        for (const bool bTracking : {true, false}) {
+            const char* const tracking = bTracking ? "" : ", without keyboard tracking";
+            for (const char c : {'e', 'E', 'g', 'G', 'f'}) {
+                QTest::addRow("%c, %s%s", c, leaving.name, tracking)
+                    << c << 2 << 12345.68 << bTracking << leaving.leave;
+            }
+            QTest::addRow("one digit, %s%s", leaving.name, tracking)
+                << 'g' << 0 << 98765.0 << bTracking << leaving.leave;
+            QTest::addRow("negative, %s%s", leaving.name, tracking) << 'e' << 3 << -0.062 << bTracking << leaving.leave;
+        }
+    }
+}
+
+void tst_CDSpinBox::keepsAValueThatIsNotTouched()
+{
+    QFETCH(const char, format);
+    QFETCH(const int, decimals);
+    QFETCH(const double, value);
+    QFETCH(const bool, tracking);
+    QFETCH(const Leave, leave);
+    Probe box;
+    box.setKeyboardTracking(tracking);
+    box.setFmtChar(QLatin1Char(format));
+    box.setDecimals(decimals);
+    box.setRange(-1e6, 1e6);
+    box.setValue(1);
+    box.setValue(value);
+    box.show();
+    const QString sText = box.text();
+    QCOMPARE(sText, QString::number(value, format, decimals));
+    QSignalSpy spy(&box, qOverload<double>(&CDSpinBox::valueChanged));
+    QVERIFY(spy.isValid());
+    for (int nTimes = 0; nTimes < 2; ++nTimes) {
+        leave(box);
+        QVERIFY(isSame(box.value(), value));
+        QCOMPARE(box.text(), sText);
+        for (const QList<QVariant>& arguments : qAsConst(spy)) {
+            QVERIFY(isSame(arguments.at(0).toDouble(), value));
+        }
+        box.show();
+    }
+}
+
+void tst_CDSpinBox::keepsAValueThatWasTypedWithMorePlacesThanItShows()
+{
+    Probe box;
+    box.setValue(5);
+    box.lineEdit()->selectAll();
+    QTest::keyClicks(&box, QStringLiteral("0.126"));
+    QCOMPARE(box.value(), 0.126);
+    for (int nTimes = 0; nTimes < 3; ++nTimes) {
+        QTest::keyClick(&box, Qt::Key_Return);
+        QCOMPARE(box.text(), QStringLiteral("0.13"));
+        QCOMPARE(box.value(), 0.126);
+    }
+}
+
+void tst_CDSpinBox::keepsAValueWhoseTextItRefusesItself_data()
+{
+    QTest::addColumn<QString>("prefix");
+    QTest::addColumn<QString>("special");
+    QTest::addColumn<double>("minimum");
+    QTest::addColumn<double>("value");
+
+    const QString none;
+    QTest::newRow("with a prefix") << QStringLiteral("U=") << none << -1e9 << 12345.68;
+    QTest::newRow("special value text") << none << QStringLiteral("least") << 12.0 << 12.0;
+    // German has a point between the thousands, which a fixed up text is rid of: 123e+04 would be in the range.
+    QTest::newRow("a text below the minimum") << none << none << 12345.68 << 12345.68;
+}
+
+void tst_CDSpinBox::keepsAValueWhoseTextItRefusesItself()
+{
+    QFETCH(const QString, prefix);
+    QFETCH(const QString, special);
+    QFETCH(const double, minimum);
+    QFETCH(const double, value);
+    for (const auto mode : {QAbstractSpinBox::CorrectToPreviousValue, QAbstractSpinBox::CorrectToNearestValue}) {
+        Probe box;
+        box.setLocale(QLocale(QLocale::German, QLocale::Germany));
+        box.setCorrectionMode(mode);
+        box.setFmtChar(QLatin1Char('e'));
+        box.setRange(minimum, 1e9);
+        box.setPrefix(prefix);
+        box.setSpecialValueText(special);
+        box.setValue(1e9);
+        box.setValue(value);
+        const QString sText = box.text();
+        QTest::keyClick(&box, Qt::Key_Return);
+        QVERIFY(isSame(box.value(), value));
+        QCOMPARE(box.text(), sText);
+
+        // A refused key on the way changes nothing about that.
+        QTest::keyClicks(&box, QStringLiteral("x"));
+        QFocusEvent leaving(QEvent::FocusOut);
+        QApplication::sendEvent(&box, &leaving);
+        QVERIFY(isSame(box.value(), value));
+        QCOMPARE(box.text(), sText);
+    }
+}
+
+void tst_CDSpinBox::keepsTheValueAndShowsTheNewFormatOnEnter_data()
+{
+    QTest::addColumn<QString>("formats"); // set one after another, the text not being rebuilt
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+
+    QTest::newRow("e to f") << QStringLiteral("ef") << QStringLiteral("1.23e+04") << QStringLiteral("12345.68");
+    QTest::newRow("f to e") << QStringLiteral("fe") << QStringLiteral("12345.68") << QStringLiteral("1.23e+04");
+    QTest::newRow("e to E to g") << QStringLiteral("eEg") << QStringLiteral("1.23e+04") << QStringLiteral("1.2e+04");
+    QTest::newRow("g to f to g to e") << QStringLiteral("gfge") << QStringLiteral("1.2e+04")
+                                      << QStringLiteral("1.23e+04");
+}
+
+void tst_CDSpinBox::keepsTheValueAndShowsTheNewFormatOnEnter()
+{
+    QFETCH(const QString, formats);
+    QFETCH(const QString, before);
+    QFETCH(const QString, after);
+    for (const bool bTracking : {true, false}) {
+        Probe box;
+        box.setKeyboardTracking(bTracking);
+        box.setRange(0, 1e6);
+        box.setFmtChar(formats.at(0));
+        box.setValue(12345.68);
+        for (const QChar c : formats) {
+            box.setFmtChar(c);
+        }
+        QCOMPARE(box.text(), before);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QVERIFY(isSame(box.value(), 12345.68));
+        QCOMPARE(box.text(), after);
+
+        // What looks like a text of long ago is a number once it is typed.
+        box.setFmtChar(QLatin1Char('f'));
+        QTest::keyClick(&box, Qt::Key_Return);
+        pasteOver(*box.lineEdit(), QStringLiteral("1.23e+04"));
+        QTest::keyClick(&box, Qt::Key_Return);
+        QCOMPARE(box.value(), 12300.0);
+    }
+}
+
+void tst_CDSpinBox::tellsAnUntouchedValueOnEnterAsQtDoes_data()
+{
+    QTest::addColumn<bool>("tracking");
+    QTest::newRow("with keyboard tracking") << true;
+    QTest::newRow("without keyboard tracking") << false;
+}
+
+void tst_CDSpinBox::tellsAnUntouchedValueOnEnterAsQtDoes()
+{
+    QFETCH(const bool, tracking);
+    const auto enter = [tracking](QDoubleSpinBox& box) {
+        QStringList heard;
+        QLineEdit* const pEdit = box.findChild<QLineEdit*>();
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
+        connect(&box, qOverload<const QString&>(&QDoubleSpinBox::valueChanged), &box,
+                [&] { heard << QStringLiteral("valueChanged, a text"); });
+        QT_WARNING_POP
+#endif
+        connect(&box, &QDoubleSpinBox::textChanged, &box, [&](const QString& sText) {
+            heard << QStringLiteral("textChanged, shown: %1").arg(sText == box.text());
+        });
+        connect(&box, qOverload<double>(&QDoubleSpinBox::valueChanged), &box, [&](double value) {
+            heard << QStringLiteral("valueChanged, the value: %1").arg(isSame(value, 12345.68));
+        });
+        connect(&box, &QDoubleSpinBox::editingFinished, &box, [&] { heard << QStringLiteral("editingFinished"); });
+        connect(pEdit, &QLineEdit::returnPressed, &box, [&] {
+            heard << QStringLiteral("returnPressed, all selected: %1").arg(pEdit->selectedText() == box.text());
+        });
+        box.setKeyboardTracking(tracking);
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Enter, Qt::KeypadModifier, QStringLiteral("\r"));
+        QApplication::sendEvent(&box, &event);
+        return heard << QStringLiteral("event taken: %1").arg(event.isAccepted());
+    };
+    QDoubleSpinBox qtBox;
+    qtBox.setLocale(QLocale::c());
+    qtBox.setRange(0, 1e6);
+    qtBox.setValue(12345.68);
+    Probe box;
+    box.setFmtChar(QLatin1Char('e'));
+    box.setRange(0, 1e6);
+    box.setValue(12345.68);
+    QCOMPARE(enter(box), enter(qtBox));
+}
+
+void tst_CDSpinBox::stepsFromTheValueAndNotFromItsText()
+{
+    Probe box;
+    box.setFmtChar(QLatin1Char('e'));
+    box.setRange(0, 1e6);
+    box.setValue(12345.68);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QTest::keyClick(&box, Qt::Key_Up);
+    QCOMPARE(box.value(), 12346.68);
+    QTest::keyClick(&box, Qt::Key_Return);
+    box.setSingleStep(1);
+    box.setStepType(CDSpinBox::RatioStepType);
+    QTest::keyClick(&box, Qt::Key_Up);
+    QCOMPARE(box.value(), 24693.36);
+}
+
+void tst_CDSpinBox::readsAnEditedTextOnEnter_data()
+{
+    QTest::addColumn<bool>("tracking");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("value");
+
+    for (const bool bTracking : {true, false}) {
+        const char* const tracking = bTracking ? "" : ", without keyboard tracking";
+        QTest::addRow("another number%s", tracking) << bTracking << QStringLiteral("7.5") << 7.5;
+        QTest::addRow("more places than are shown%s", tracking) << bTracking << QStringLiteral("1.2345e4") << 12345.0;
+        QTest::addRow("the number as it is shown%s", tracking) << bTracking << QStringLiteral("1.23e+04") << 12300.0;
+    }
+}
+
+void tst_CDSpinBox::readsAnEditedTextOnEnter()
+{
+    QFETCH(const bool, tracking);
+    QFETCH(const QString, typed);
+    QFETCH(const double, value);
+    Probe box;
+    box.setKeyboardTracking(tracking);
+    box.setFmtChar(QLatin1Char('e'));
+    box.setRange(0, 1e6);
+    box.setValue(12345.68);
+    pasteOver(*box.lineEdit(), typed);
+    for (int nTimes = 0; nTimes < 2; ++nTimes) {
+        QTest::keyClick(&box, Qt::Key_Return);
+        QCOMPARE(box.value(), value);
+        QCOMPARE(box.text(), QString::number(value, 'e', 2));
     }
 }
 
@@ -620,6 +1073,85 @@ void tst_CDSpinBox::stepsByTheRatioOnTheArrowAndPageKeys()
     QCOMPARE(box.value(), 1024.0);
 }
 
+void tst_CDSpinBox::survivesASlotThatDeletesIt_data()
+{
+    QTest::addColumn<int>("steps"); // 0: the value is set
+    QTest::addColumn<bool>("withItsParent");
+
+    for (const bool bParent : {false, true}) {
+        const char* const victim = bParent ? "its parent" : "itself";
+        QTest::addRow("set, %s", victim) << 0 << bParent;
+        QTest::addRow("one step, %s", victim) << 1 << bParent;
+        QTest::addRow("many steps up, %s", victim) << 5 << bParent;
+        QTest::addRow("many steps down, %s", victim) << -5 << bParent;
+    }
+}
+
+void tst_CDSpinBox::survivesASlotThatDeletesIt()
+{
+    QFETCH(const int, steps);
+    QFETCH(const bool, withItsParent);
+    const QPointer<QWidget> pParent = new QWidget;
+    const QPointer<CDSpinBox> pBox = new CDSpinBox(pParent);
+    pBox->setValue(10);
+    pBox->setSingleStep(0.5);
+    pBox->setStepType(CDSpinBox::RatioStepType);
+    int nTold = 0;
+    QObject receiver;
+    connect(pBox, qOverload<double>(&CDSpinBox::valueChanged), &receiver, [&] {
+        ++nTold;
+        delete (withItsParent ? pParent.data() : pBox.data());
+    });
+    if (steps == 0)
+        pBox->setValue(20);
+    else
+        pBox->stepBy(steps);
+    QVERIFY(pBox.isNull());
+    QCOMPARE(nTold, 1);
+    delete pParent.data();
+}
+
+void tst_CDSpinBox::letsASubclassReplaceTheLineEdit()
+{
+    Probe box;
+    box.setFmtChar(QLatin1Char('e'));
+    box.setRange(0, 1e6);
+    box.setValue(12345.68);
+    box.setFmtChar(QLatin1Char('f'));
+    auto* const pEdit = new QLineEdit;
+    box.setLineEdit(pEdit);
+    box.show();
+    QCOMPARE(pEdit->text(), QStringLiteral("12345.68"));
+    pasteOver(*pEdit, QStringLiteral("nan"));
+    QCOMPARE(pEdit->text(), QStringLiteral("12345.68"));
+    QTest::keyClicks(pEdit, QStringLiteral("7"));
+    QCOMPARE(box.value(), 7.0);
+    box.setFmtChar(QLatin1Char('e'));
+    box.setValue(12345.68);
+    QTest::keyClick(pEdit, Qt::Key_Return);
+    QVERIFY(isSame(box.value(), 12345.68));
+    box.setSuffix(QStringLiteral(" V"));
+    QTest::keyClicks(pEdit, QStringLiteral("7"));
+    QCOMPARE(pEdit->text(), QStringLiteral("1.23e+04 V"));
+    box.setLineEdit(pEdit);
+    box.setLineEdit(nullptr);
+    QCOMPARE(box.lineEdit(), pEdit);
+}
+
+void tst_CDSpinBox::leavesALineEditTheValidatorThatItBrings()
+{
+    Probe box;
+    auto* const pEdit = new QLineEdit;
+    const QRegularExpressionValidator octal(QRegularExpression(QStringLiteral("[0-7.]*")));
+    pEdit->setValidator(&octal);
+    box.setLineEdit(pEdit);
+    box.setValue(5);
+    QCOMPARE(pEdit->validator(), &octal);
+    pEdit->selectAll();
+    QTest::keyClicks(pEdit, QStringLiteral("285"));
+    QCOMPARE(box.value(), 25.0);
+}
+
 void tst_CDSpinBox::hintsAtTheWidthOfTheCurrentValue_data()
 {
     QTest::addColumn<QString>("prefix");
@@ -769,6 +1301,7 @@ void tst_CDSpinBox::hintMeasuresTheCurrentValueTwice()
     }
 }
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 void tst_CDSpinBox::hintIsNeverSmallerThanTheGlobalStrut()
 {
     Probe box;
@@ -783,6 +1316,7 @@ void tst_CDSpinBox::hintIsNeverSmallerThanTheGlobalStrut()
     QCOMPARE(box.sizeHint(), natural);
     QCOMPARE(box.minimumSizeHint(), naturalMinimum);
 }
+#endif
 
 QTEST_MAIN(tst_CDSpinBox)
 #include "tst_CDSpinBox.moc"

@@ -3,17 +3,85 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
+#include <QValidator>
 
 #include <algorithm>
 #include <cmath>
 
 namespace nsUI {
+namespace {
+
+//! The smallest size that the application wants for a control: 0 unless a host sets one, and always in Qt 6.
+QSize globalStrut()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    return QApplication::globalStrut();
+    QT_WARNING_POP
+#else
+    return QSize(0, 0);
+#endif
+}
+
+} // namespace
+
+/*!
+    What the line edit asks: Qt's own validator of the box, but for two texts. One that is no finite number is refused.
+    And what the box itself shows is never refused, since a line edit rolls a refused key back only from a text that
+    was not refused before.
+*/
+class CDSpinBox::Validator : public QValidator
+{
+public:
+    Validator(const CDSpinBox& box, const QValidator& inner, QObject* pParent)
+        : QValidator(pParent)
+        , m_box(box)
+        , m_inner(inner)
+    {
+    }
+
+    State validate(QString& input, int& pos) const override
+    {
+        const QString sGiven = input;
+        const int nGiven = pos;
+        const State state = m_inner.validate(input, pos);
+        if (state != Invalid && !isInfinite(sGiven))
+            return state;
+        if (sGiven != m_box.ownText())
+            return Invalid;
+        input = sGiven;
+        pos = nGiven;
+        return state == Invalid ? Intermediate : state;
+    }
+
+    void fixup(QString& input) const override
+    {
+        if (input != m_box.ownText())
+            m_inner.fixup(input);
+    }
+
+private:
+    //! True for "inf" and "nan" in all their forms; no other number has an "n".
+    static bool isInfinite(const QString& sText)
+    {
+        return sText.contains(QLatin1Char('n'), Qt::CaseInsensitive) && !std::isfinite(sText.toDouble());
+    }
+
+    const CDSpinBox& m_box;
+    const QValidator& m_inner;
+};
 
 CDSpinBox::CDSpinBox(QWidget* parent)
     : QDoubleSpinBox(parent)
 {
+    setValidator();
+    connect(lineEdit(), &QLineEdit::textChanged, this, &CDSpinBox::forgetEarlierText);
 }
 
 QChar CDSpinBox::fmtChar() const
@@ -25,6 +93,8 @@ void CDSpinBox::setFmtChar(const QChar& ch)
 {
     if (!QStringLiteral("eEfgG").contains(ch) || ch == m_cFmt)
         return;
+    if (text() == ownText())
+        m_sEarlierText = text();
     m_cFmt = ch;
     update();
 }
@@ -64,12 +134,7 @@ QSize CDSpinBox::fittingSize(const QSize& tBase) const
     QStyleOptionSpinBox option;
     initStyleOption(&option);
     const QSize tContents(nWidth + 2, tBase.height());
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED // the application's strut is 0 unless a host sets one
-    return style()
-        ->sizeFromContents(QStyle::CT_SpinBox, &option, tContents, this)
-        .expandedTo(QApplication::globalStrut());
-    QT_WARNING_POP
+    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, tContents, this).expandedTo(globalStrut());
 }
 
 QValidator::State CDSpinBox::validate(QString& input, int&) const
@@ -88,7 +153,8 @@ void CDSpinBox::stepBy(int steps)
     const double smallest = std::pow(0.1, decimals());
     const double factor = 1.0 + (qIsNull(singleStep()) ? smallest : singleStep());
     const bool up = steps > 0;
-    for (int i = steps; i != 0; i += up ? -1 : 1) {
+    const QPointer<CDSpinBox> pBox(this); // a slot may delete it
+    for (int i = steps; i != 0 && !pBox.isNull(); i += up ? -1 : 1) {
         if (qIsNull(value()))
             setValue(smallest);
         else
@@ -104,6 +170,96 @@ double CDSpinBox::valueFromText(const QString& text) const
 QString CDSpinBox::textFromValue(double val) const
 {
     return QString::number(val, m_cFmt.toLatin1(), decimals());
+}
+
+void CDSpinBox::setLineEdit(QLineEdit* pEdit)
+{
+    if (pEdit == nullptr || pEdit == lineEdit())
+        return;
+    const bool bringsValidator = pEdit->validator() != nullptr;
+    QDoubleSpinBox::setLineEdit(pEdit);
+    if (!bringsValidator)
+        setValidator();
+    connect(pEdit, &QLineEdit::textChanged, this, &CDSpinBox::forgetEarlierText);
+    forgetEarlierText();
+}
+
+//! Puts this class's validator before Qt's own.
+void CDSpinBox::setValidator()
+{
+    lineEdit()->setValidator(new Validator(*this, *lineEdit()->validator(), lineEdit()));
+}
+
+void CDSpinBox::forgetEarlierText()
+{
+    m_sEarlierText.clear();
+}
+
+//! What the box writes when it writes its value.
+QString CDSpinBox::ownText() const
+{
+    const QString sSpecial = specialValueText();
+    return value() == minimum() && !sSpecial.isEmpty() ? sSpecial : prefix() + textFromValue(value()) + suffix();
+}
+
+//! True while the text on show is as the box wrote it, and no edit of it waits to be read.
+bool CDSpinBox::isUntouched() const
+{
+    const QLineEdit* const pEdit = lineEdit();
+    const bool isWaiting = !keyboardTracking() && (pEdit->isUndoAvailable() || pEdit->isRedoAvailable());
+    const QString sText = text();
+    return !isWaiting && ((!m_sEarlierText.isNull() && sText == m_sEarlierText) || sText == ownText());
+}
+
+//! True when the text on show reads as the value that it shows.
+bool CDSpinBox::readsBack() const
+{
+    QString sText = text();
+    int nPos = lineEdit()->cursorPosition();
+    return validate(sText, nPos) == QValidator::Acceptable && valueFromText(sText) == value();
+}
+
+void CDSpinBox::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Enter || event->key() == Qt::Key_Return;
+    if (!isEnter || readsBack() || !isUntouched()) {
+        QDoubleSpinBox::keyPressEvent(event);
+        return;
+    }
+    event->ignore();
+    enterUntouched();
+}
+
+//! What Qt does on Enter, but for reading the text.
+void CDSpinBox::enterUntouched()
+{
+    const QPointer<CDSpinBox> pBox(this);
+    forgetEarlierText();
+    setSingleStep(singleStep()); // nothing but a new writing of the text
+    if (keyboardTracking())
+        tellValue();
+    if (!pBox.isNull())
+        selectAll();
+    if (!pBox.isNull())
+        Q_EMIT editingFinished();
+    if (!pBox.isNull())
+        Q_EMIT lineEdit()->returnPressed();
+}
+
+//! All signals of the value, in Qt's order.
+void CDSpinBox::tellValue()
+{
+    const QPointer<CDSpinBox> pBox(this);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    Q_EMIT valueChanged(text());
+    QT_WARNING_POP
+#endif
+    if (!pBox.isNull())
+        Q_EMIT textChanged(text());
+    if (!pBox.isNull())
+        Q_EMIT valueChanged(value());
 }
 
 } // namespace nsUI

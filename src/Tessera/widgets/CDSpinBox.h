@@ -8,6 +8,11 @@
 #include <QSize>
 #include <QString>
 
+QT_BEGIN_NAMESPACE
+class QKeyEvent;
+class QLineEdit;
+QT_END_NAMESPACE
+
 namespace nsUI {
 
 /*!
@@ -18,6 +23,15 @@ namespace nsUI {
     prefix and suffix included, must be a number within the range, and there is no Intermediate state. An emptied
     field, a lone "-" and a number that is still being typed towards the range are refused, so give the box a range
     in which its numbers can be typed digit by digit, and neither prefix nor suffix where they are to be typed at all.
+    "nan" and "inf" cannot be typed, and a key that is refused leaves text, cursor and selection as they were.
+
+    A text may say less than the value: one of format 'e' or 'g', and one whose value was typed with more places than
+    decimals(). Enter tells the value again and reads only a text that was edited, so the value is not rounded by it.
+    (interpretText() is QDoubleSpinBox's own, and reads whatever is shown.)
+
+    A slot of valueChanged(double) may delete the box, or its parent, where the program's own call of setValue() or of
+    stepBy() with RatioStepType sends it. Everywhere else QDoubleSpinBox goes on with the box after its signals: there,
+    call deleteLater().
 */
 class TESSERA_EXPORT CDSpinBox : public QDoubleSpinBox
 {
@@ -48,8 +62,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    //! Acceptable when all of \a input is a number within the range, else Invalid ("nan" lies outside no range).
-    //! \a input is not changed.
+    //! Acceptable when all of \a input is a number within the range, else Invalid ("nan" lies outside no range, but
+    //! the line edit refuses it). \a input is not changed.
     QValidator::State validate(QString& input, int& pos) const override;
 
     /*!
@@ -64,10 +78,27 @@ public:
     double valueFromText(const QString& text) const override;
     QString textFromValue(double val) const override;
 
+protected:
+    //! Takes \a pEdit in the place of the line edit as QAbstractSpinBox does, with this class's own validation unless
+    //! it brings a validator of its own.
+    void setLineEdit(QLineEdit* pEdit);
+
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    class Validator;
+
     QSize fittingSize(const QSize& tBase) const;
+    void setValidator();
+    void forgetEarlierText();
+    QString ownText() const;
+    bool isUntouched() const;
+    bool readsBack() const;
+    void enterUntouched();
+    void tellValue();
 
     QChar m_cFmt = QLatin1Char('f');
+    QString m_sEarlierText; //!< what was shown when the format changed, unless it was edited since
 };
 
 } // namespace nsUI
