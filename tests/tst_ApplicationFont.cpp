@@ -7,9 +7,11 @@
 #include <QApplication>
 #include <QDir>
 #include <QFontDatabase>
+#include <QProcess>
 #include <QScopedPointer>
 #include <QtTest>
 
+#include <cstdio>
 #include <type_traits>
 
 using nsUI::tagAppFont;
@@ -22,6 +24,16 @@ using TestSupport::SettingsGuard;
 namespace {
 
 const QString sGroup = QStringLiteral("SomeGroup");
+const QString sOwnFamily = QStringLiteral("Tessera Test"); // that of the test's own font file
+
+// The same weights in other numbers: those of Qt 5 end at 99, those of Qt 6 at 1000.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+constexpr int c_nNormal = 50;
+constexpr int c_nBold = 75;
+#else
+constexpr int c_nNormal = 400;
+constexpr int c_nBold = 700;
+#endif
 
 QSharedPointer<QSettings> store()
 {
@@ -44,6 +56,35 @@ tagAppFont font(const QStringList& families, int nSize, bool bBold, bool bItalic
     result.bold = bBold;
     result.italic = bItalic;
     return result;
+}
+
+//! The command line argument that makes this program use the library before there is an application.
+const char* const g_early = "--before-the-application";
+
+void print(QtMsgType level, const QMessageLogContext&, const QString& sText)
+{
+    // Qt 6 names the list's class before it.
+    const bool isList = sText.startsWith(QLatin1Char('(')) || sText.startsWith(QLatin1String("QList("));
+    const QString sShown = isList ? QStringLiteral("the list of fonts") : sText;
+    std::puts(qPrintable(TestSupport::levelName(level) + QStringLiteral(": ") + sShown));
+}
+
+//! Prints what happens; the arguments are which application there is, if any, and the file of resources, if any.
+int earlyUse(int argc, char* argv[])
+{
+    const HostResources host(*argv[3] != '\0' ? contentOf(QString::fromLocal8Bit(argv[3])) : QByteArray());
+    qInstallMessageHandler(print);
+    QScopedPointer<QCoreApplication> pCore;
+    if (*argv[2] != '\0')
+        pCore.reset(new QCoreApplication(argc, argv));
+    std::puts(qPrintable(TesseraGlobal::instance().getColor(nsUI::e_Primary, nsUI::e_L500).name()));
+    pCore.reset();
+    qInstallMessageHandler(nullptr);
+
+    const QApplication app(argc, argv);
+    TesseraGlobal::initFont();
+    std::puts(QFontDatabase().families().contains(sOwnFamily) ? "registered later" : "not registered");
+    return 0;
 }
 
 } // namespace
@@ -88,6 +129,8 @@ private Q_SLOTS:
     void logsAnEmptyListWithoutFontFiles();
     void registersEveryFontFileAndLogsTheirList();
     void leavesTheApplicationsFontAlone();
+    void isUsableBeforeThereIsAnApplication_data();
+    void isUsableBeforeThereIsAnApplication();
 
 private:
     QScopedPointer<MessageRecorder> m_pLog;
@@ -324,10 +367,10 @@ void tst_ApplicationFont::makesAFontOfTheApplicationsFont_data()
     QTest::addColumn<bool>("italic");
     QTest::addColumn<int>("style");
 
-    QTest::newRow("plain") << false << 50 << false << int(QFont::StyleNormal);
-    QTest::newRow("bold") << true << 75 << false << int(QFont::StyleNormal);
-    QTest::newRow("italic") << false << 50 << true << int(QFont::StyleItalic);
-    QTest::newRow("both") << true << 75 << true << int(QFont::StyleItalic);
+    QTest::newRow("plain") << false << c_nNormal << false << int(QFont::StyleNormal);
+    QTest::newRow("bold") << true << c_nBold << false << int(QFont::StyleNormal);
+    QTest::newRow("italic") << false << c_nNormal << true << int(QFont::StyleItalic);
+    QTest::newRow("both") << true << c_nBold << true << int(QFont::StyleItalic);
 }
 
 void tst_ApplicationFont::makesAFontOfTheApplicationsFont()
@@ -342,7 +385,7 @@ void tst_ApplicationFont::makesAFontOfTheApplicationsFont()
     const QFont result = font({QStringLiteral("Family A"), QStringLiteral("Family B")}, 17, bold, italic).toFont();
     QCOMPARE(result.family(), QStringLiteral("Family A"));
     QCOMPARE(result.pointSize(), 17);
-    QCOMPARE(result.weight(), weight);
+    QCOMPARE(int(result.weight()), weight);
     QCOMPARE(int(result.style()), style);
 }
 
@@ -419,7 +462,7 @@ void tst_ApplicationFont::currentFontIsTheDefaultBeforeAnythingIsStored()
     const QFont current = TesseraGlobal::instance().getCurrentAppFont();
     QCOMPARE(current.family(), QStringLiteral("JetBrains Mono"));
     QCOMPARE(current.pointSize(), 10);
-    QCOMPARE(current.weight(), 50);
+    QCOMPARE(int(current.weight()), c_nNormal);
     QCOMPARE(current.style(), QFont::StyleNormal);
 }
 
@@ -435,7 +478,7 @@ void tst_ApplicationFont::currentFontReadsOnlyTheFontInEffect()
     const QFont current = TesseraGlobal::instance().getCurrentAppFont();
     QCOMPARE(current.family(), QStringLiteral("DejaVu Serif"));
     QCOMPARE(current.pointSize(), 10);
-    QCOMPARE(current.weight(), 75);
+    QCOMPARE(int(current.weight()), c_nBold);
     QCOMPARE(current.style(), QFont::StyleItalic);
 }
 
@@ -459,14 +502,13 @@ void tst_ApplicationFont::logsAnEmptyListWithoutFontFiles()
     QVERIFY(!QDir(QStringLiteral(":/ttf")).exists());
     const QStringList before = QFontDatabase().families();
     TesseraGlobal::initFont();
-    QCOMPARE(m_pLog->take(), QStringList{QStringLiteral("debug: ()")});
+    QCOMPARE(m_pLog->take(), QStringList{QStringLiteral("debug: ") + TestSupport::debugOfList({})});
     QCOMPARE(QFontDatabase().families(), before);
 }
 
 void tst_ApplicationFont::registersEveryFontFileAndLogsTheirList()
 {
-    const QString sFamily = QStringLiteral("Tessera Test");
-    QVERIFY(!QFontDatabase().families().contains(sFamily));
+    QVERIFY(!QFontDatabase().families().contains(sOwnFamily));
     const HostResources host(contentOf(QStringLiteral(FONT_RESOURCES)));
     QVERIFY(host.isRegistered());
     const QDir folder(QStringLiteral(":/ttf"));
@@ -480,8 +522,8 @@ void tst_ApplicationFont::registersEveryFontFileAndLogsTheirList()
     QCOMPARE(listed.size(), 2);
 
     TesseraGlobal::initFont();
-    QCOMPARE(m_pLog->take(), QStringList{QStringLiteral("debug: (%1)").arg(listed.join(QLatin1String(", ")))});
-    QVERIFY(QFontDatabase().families().contains(sFamily)); // in spite of the broken file beside it
+    QCOMPARE(m_pLog->take(), QStringList{QStringLiteral("debug: ") + TestSupport::debugOfList(listed)});
+    QVERIFY(QFontDatabase().families().contains(sOwnFamily)); // in spite of the broken file beside it
 }
 
 void tst_ApplicationFont::leavesTheApplicationsFontAlone()
@@ -495,5 +537,43 @@ void tst_ApplicationFont::leavesTheApplicationsFontAlone()
     QCOMPARE(qApp->styleSheet(), QString());
 }
 
-QTEST_MAIN(tst_ApplicationFont)
+void tst_ApplicationFont::isUsableBeforeThereIsAnApplication_data()
+{
+    QTest::addColumn<QString>("application");
+    QTest::addColumn<bool>("hasFonts");
+    QTest::newRow("none, with fonts") << QString() << true;
+    QTest::newRow("one without a display, with fonts") << QStringLiteral("core") << true;
+    QTest::newRow("none, without fonts") << QString() << false;
+}
+
+void tst_ApplicationFont::isUsableBeforeThereIsAnApplication()
+{
+    QFETCH(const QString, application);
+    QFETCH(const bool, hasFonts);
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(),
+                  {QString::fromLatin1(g_early), application, hasFonts ? QStringLiteral(FONT_RESOURCES) : QString()});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QStringList expected{QStringLiteral("debug: Tessera Singleton Create Begin"),
+                         QStringLiteral("debug: the list of fonts")};
+    if (hasFonts)
+        expected << QStringLiteral("warning: The fonts of :/ttf are not registered: there is no QGuiApplication yet. "
+                                   "Call TesseraGlobal::initFont() when there is one.");
+    expected << QStringLiteral("debug: Tessera Singleton Create End") << QStringLiteral("#136796")
+             << (hasFonts ? QStringLiteral("registered later") : QStringLiteral("not registered"));
+    const QString sPrinted = QString::fromUtf8(process.readAllStandardOutput());
+    QCOMPARE(sPrinted.split(QLatin1Char('\n'), Qt::SkipEmptyParts), expected);
+}
+
+int main(int argc, char* argv[])
+{
+    if (argc == 4 && qstrcmp(argv[1], g_early) == 0)
+        return earlyUse(argc, argv);
+    QApplication app(argc, argv);
+    tst_ApplicationFont test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_ApplicationFont.moc"

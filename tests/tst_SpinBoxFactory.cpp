@@ -82,6 +82,24 @@ const QVector<Member>& members()
     return all;
 }
 
+//! Deletes a widget in the slot that it offers.
+class Deleter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Deleter(QWidget* pVictim)
+        : m_pVictim(pVictim)
+    {
+    }
+
+public Q_SLOTS:
+    void deleteNow() { delete m_pVictim; }
+
+private:
+    QWidget* m_pVictim;
+};
+
 } // namespace
 
 class tst_SpinBoxFactory : public QObject
@@ -133,10 +151,14 @@ private Q_SLOTS:
     void convertsTheValueToTheExactType_data();
     void convertsTheValueToTheExactType();
     void bringsTheValueIntoTheRange();
+    void knowsNothingOfAWidgetOfAnotherClass_data();
+    void knowsNothingOfAWidgetOfAnotherClass();
     void setsNothingWithoutAnEditor_data();
     void setsNothingWithoutAnEditor();
     void selectsTheNumberOnlyWhenAsked();
     void leavesTheSelectionAsItWasOtherwise();
+    void survivesASlotThatDeletesTheEditor_data();
+    void survivesASlotThatDeletesTheEditor();
 
 private:
     QScopedPointer<MessageRecorder> m_pLog;
@@ -645,6 +667,34 @@ void tst_SpinBoxFactory::setsNothingWithoutAnEditor()
     QVERIFY(!TesseraGlobal::ISP_setData(nullptr, e_ISpx_Type(type), QVariant(), false));
 }
 
+void tst_SpinBoxFactory::knowsNothingOfAWidgetOfAnotherClass_data()
+{
+    readsAnInvalidVariantFromNoEditor_data();
+}
+
+void tst_SpinBoxFactory::knowsNothingOfAWidgetOfAnotherClass()
+{
+    QFETCH(const int, type);
+    const auto code = e_ISpx_Type(type);
+    QLineEdit edit(QStringLiteral("text"));
+    QVERIFY(!TesseraGlobal::ISP_getData(&edit, code).isValid());
+    QVERIFY(!TesseraGlobal::ISP_setData(&edit, code, 5, true));
+    QCOMPARE(edit.text(), QStringLiteral("text"));
+    QVERIFY(!edit.hasSelectedText());
+
+    // Nor does a box of one class pass for one of another.
+    const QScopedPointer<QWidget> pOwn(TesseraGlobal::ISP_create(nullptr, {{TypeRole, type}}));
+    for (const Member& m : members()) {
+        const QScopedPointer<QWidget> pBox(TesseraGlobal::ISP_create(nullptr, {{TypeRole, int(m.type)}}));
+        const bool isOwn = pBox->metaObject() == pOwn->metaObject();
+        TesseraGlobal::ISP_setData(pBox.data(), m.type, 7, false);
+        QCOMPARE(TesseraGlobal::ISP_getData(pBox.data(), code).isValid(), isOwn);
+        QCOMPARE(TesseraGlobal::ISP_setData(pBox.data(), code, 9, true), isOwn);
+        QCOMPARE(textOf(pBox.data()), isOwn ? QStringLiteral("9") : QStringLiteral("7"));
+        QCOMPARE(lineEditOf(pBox.data())->hasSelectedText(), isOwn);
+    }
+}
+
 void tst_SpinBoxFactory::selectsTheNumberOnlyWhenAsked()
 {
     for (const Member& m : members()) {
@@ -673,6 +723,38 @@ void tst_SpinBoxFactory::leavesTheSelectionAsItWasOtherwise()
         TesseraGlobal::ISP_setData(pBox.data(), m.type, 42, false);
         QVERIFY(!pEdit->hasSelectedText());
     }
+}
+
+void tst_SpinBoxFactory::survivesASlotThatDeletesTheEditor_data()
+{
+    QTest::addColumn<e_ISpx_Type>("type");
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<bool>("withItsParent");
+
+    for (const Member& m : members()) {
+        for (const bool bParent : {false, true}) {
+            const char* const victim = bParent ? "its parent" : "itself";
+            const QByteArray sType = QMetaType(m.nMetaType).name();
+            QTest::addRow("%s, textChanged, %s", m.className, victim)
+                << m.type << QByteArray(SIGNAL(textChanged(QString))) << bParent;
+            QTest::addRow("%s, valueChanged, %s", m.className, victim)
+                << m.type << QByteArray("2valueChanged(" + sType + ')') << bParent;
+        }
+    }
+}
+
+void tst_SpinBoxFactory::survivesASlotThatDeletesTheEditor()
+{
+    QFETCH(const e_ISpx_Type, type);
+    QFETCH(const QByteArray, signal);
+    QFETCH(const bool, withItsParent);
+    const QPointer<QWidget> pParent = new QWidget;
+    const QPointer<QWidget> pBox = TesseraGlobal::ISP_create(pParent, {{TypeRole, int(type)}});
+    Deleter deleter(withItsParent ? pParent : pBox);
+    QVERIFY(connect(pBox, signal.constData(), &deleter, SLOT(deleteNow())));
+    QVERIFY(TesseraGlobal::ISP_setData(pBox, type, 42, true));
+    QVERIFY(pBox.isNull());
+    delete pParent.data();
 }
 
 QTEST_MAIN(tst_SpinBoxFactory)

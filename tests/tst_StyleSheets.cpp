@@ -260,7 +260,7 @@ void tst_StyleSheets::logsUpToFourLinesInOrder()
 {
     const HostResources host(contentOf(QStringLiteral(HOST_RESOURCES)));
     QByteArray damaged = contentOf(QStringLiteral(BROKEN_RESOURCES));
-    const int nContent = damaged.indexOf("\x78\xDA"); // where zlib's data begins
+    const auto nContent = damaged.indexOf("\x78\xDA"); // where zlib's data begins
     QVERIFY(nContent > 0);
     damaged[nContent + 2] = char(~damaged.at(nContent + 2));
     const HostResources broken(damaged);
@@ -372,7 +372,7 @@ void tst_StyleSheets::readsTheSheetsAsText()
 void tst_StyleSheets::goesOnAfterASheetThatCannotBeRead()
 {
     QByteArray damaged = contentOf(QStringLiteral(BROKEN_RESOURCES));
-    const int nContent = damaged.indexOf("\x78\xDA");
+    const auto nContent = damaged.indexOf("\x78\xDA");
     QVERIFY(nContent > 0);
     damaged[nContent + 2] = char(~damaged.at(nContent + 2));
     const HostResources broken(damaged);

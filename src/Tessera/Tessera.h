@@ -91,6 +91,9 @@ public:
         registers the host's fonts (initFont()) and logs "Tessera Singleton Create End", both as debug messages. A
         palette that cannot be read is logged before that as a critical message and leaves getColor() without
         colours; nothing stops the creation.
+
+        Called before there is a QApplication, it cannot register fonts, and a warning tells so. The object is good all the
+        same, and initFont() registers them later.
     */
     static TesseraGlobal& instance();
 
@@ -119,13 +122,13 @@ public:
 
     /*!
         The value of a box made with \a type, in exactly its value type (a CI8SpinBox answers a signed char); an
-        invalid variant when \a editor is null. \a editor must be of the class that \a type names.
+        invalid variant when \a editor is null or not of the class that \a type names.
     */
     static QVariant ISP_getData(QWidget* editor, const e_ISpx_Type& type);
 
     /*!
         Sets the value of a box made with \a type, and selects its number if \a selectAll. A \a value that does not
-        convert is set as 0. False when \a editor is null. \a editor must be of the class that \a type names.
+        convert is set as 0. False, and nothing is set, when \a editor is null or not of the class that \a type names.
     */
     static bool ISP_setData(QWidget* editor, const e_ISpx_Type& type, const QVariant& value, bool selectAll);
 
@@ -150,7 +153,10 @@ public:
     */
     static void loadStyleSheet(const QStringList& names, const QString& dirPath);
 
-    //! Registers the host's fonts, every ":/ttf/*.ttf", and logs their list as a debug message.
+    /*!
+        Registers the host's fonts, the files "*.ttf" of ":/ttf", and logs their list as a debug message. Where there are
+        some and no QGuiApplication yet, it registers none and logs a warning: call it again when there is one.
+    */
     static void initFont();
 
     //! The font last put into effect by loadStyleSheet(), in this run or an earlier one; else the defaults.

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QtDebug>
 
 namespace nsUI {
@@ -83,6 +84,11 @@ void TesseraGlobal::initFont()
     const QFileInfoList files =
         QDir(QStringLiteral(":/ttf")).entryInfoList({QStringLiteral("*.ttf")}, QDir::Files, QDir::NoSort);
     qDebug() << files;
+    if (!files.isEmpty() && qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr) {
+        qWarning("The fonts of :/ttf are not registered: there is no QGuiApplication yet. "
+                 "Call TesseraGlobal::initFont() when there is one.");
+        return;
+    }
     for (const QFileInfo& info : files)
         QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(info.filePath()));
 }

@@ -9,6 +9,8 @@
 #include <Tessera/CISpinBox/CU8SpinBox.h>
 #include <Tessera/Tessera.h>
 
+#include <QPointer>
+
 #include <type_traits>
 
 namespace nsUI {
@@ -75,22 +77,21 @@ QWidget* TesseraGlobal::ISP_create(QWidget* parent, const QHash<int, QVariant>& 
 
 QVariant TesseraGlobal::ISP_getData(QWidget* editor, const e_ISpx_Type& type)
 {
-    if (editor == nullptr)
-        return QVariant();
     return withBoxClass(type, [editor](auto* pClass) {
-        const auto nVal = static_cast<decltype(pClass)>(editor)->value();
-        return QVariant(qMetaTypeId<std::remove_const_t<decltype(nVal)>>(), &nVal);
+        const auto* const pBox = qobject_cast<decltype(pClass)>(editor);
+        return pBox != nullptr ? QVariant::fromValue(pBox->value()) : QVariant();
     });
 }
 
 bool TesseraGlobal::ISP_setData(QWidget* editor, const e_ISpx_Type& type, const QVariant& value, bool selectAll)
 {
-    if (editor == nullptr)
-        return false;
     return withBoxClass(type, [&](auto* pClass) {
-        auto* const pBox = static_cast<decltype(pClass)>(editor);
-        pBox->setValue(value.value<ValueOf<std::remove_pointer_t<decltype(pClass)>>>());
-        if (selectAll)
+        using Box = std::remove_pointer_t<decltype(pClass)>;
+        const QPointer<Box> pBox = qobject_cast<Box*>(editor);
+        if (pBox.isNull())
+            return false;
+        pBox->setValue(value.value<ValueOf<Box>>());
+        if (selectAll && !pBox.isNull()) // a slot may have deleted it
             pBox->selectAll();
         return true;
     });

@@ -69,8 +69,6 @@ constexpr ToolTipRule integerBox()
     return {setFromText<Box>, track<Box, &Box::textChanged>};
 }
 
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED // Qt 5.15 sends valueChanged(QString) wherever it sends textChanged()
 //! The first rule that fits an object counts.
 constexpr ToolTipRule c_toolTipRules[] = {
     {setFromText<QLineEdit>, track<QLineEdit, &QLineEdit::textChanged>},
@@ -78,8 +76,8 @@ constexpr ToolTipRule c_toolTipRules[] = {
     {setFromText<QLabel>, nullptr},
     {setFromText<QAbstractButton>, nullptr},
     {setFromText<QAction>, nullptr},
-    {setFromText<QSpinBox>, track<QSpinBox, &QSpinBox::valueChanged>},
-    {setFromText<QDoubleSpinBox>, track<QDoubleSpinBox, &QDoubleSpinBox::valueChanged>},
+    {setFromText<QSpinBox>, track<QSpinBox, &QSpinBox::textChanged>},
+    {setFromText<QDoubleSpinBox>, track<QDoubleSpinBox, &QDoubleSpinBox::textChanged>},
     integerBox<CI8SpinBox>(),
     integerBox<CI16SpinBox>(),
     integerBox<CI32SpinBox>(),
@@ -89,7 +87,6 @@ constexpr ToolTipRule c_toolTipRules[] = {
     integerBox<CU32SpinBox>(),
     integerBox<CU64SpinBox>(),
 };
-QT_WARNING_POP
 
 bool setGivenToolTip(QObject* object, const QString& toolTip)
 {
@@ -139,7 +136,8 @@ bool TesseraGlobal::autoSetToolTips(QObject* object, const QString& toolTip)
         connections.insert(object, pRule->track(object));
         // Direct: the entry must be gone before another object can take the address.
         QObject::connect(
-            object, &QObject::destroyed, m_pData.get(), [&connections](QObject* pGone) { connections.remove(pGone); },
+            object, &QObject::destroyed, m_pData.get(),
+            [pData = m_pData.get()](QObject* pGone) { pData->tToolTipConnections.remove(pGone); },
             Qt::DirectConnection);
     }
     return true;
