@@ -134,7 +134,7 @@ public:
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override
     {
-        return parent.isValid() ? 0 : m_rows.size();
+        return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
     }
     int columnCount(const QModelIndex& parent = QModelIndex()) const override
     {
@@ -204,8 +204,9 @@ public:
     int rowCount(const QModelIndex& parent = QModelIndex()) const override
     {
         if (!parent.isValid())
-            return m_branches.size();
-        return parent.internalId() == 0 && parent.column() == 0 ? m_branches[parent.row()].rows.size() : 0;
+            return static_cast<int>(m_branches.size());
+        return parent.internalId() == 0 && parent.column() == 0 ? static_cast<int>(m_branches[parent.row()].rows.size())
+                                                                : 0;
     }
     int columnCount(const QModelIndex& parent = QModelIndex()) const override
     {

@@ -197,6 +197,25 @@ private Q_SLOTS:
         QCOMPARE(m_pHost->takeWrites(), QStringList());
     }
 
+    void aClickOnADisabledCellDoesNothing_data()
+    {
+        QTest::addColumn<int>("kind");
+        for (const int nKind : {1, 2, 3, 9, 10, 11, 12})
+            QTest::addRow("%d", nKind) << nKind;
+    }
+    void aClickOnADisabledCellDoesNothing()
+    {
+        QFETCH(int, kind);
+        answerDialogCell(1, kind);
+        m_pHost->cell(1, 0).disabled = true;
+        show();
+        const ModalDriver driver([](QDialog& dialog) { dialog.accept(); });
+        click(1, 0);
+        doubleClick(1, 0);
+        QVERIFY(!driver.hasActed());
+        QCOMPARE(m_pHost->takeWrites(), QStringList());
+    }
+
     void anInvalidIndexDoesNothing()
     {
         clickSlot(QModelIndex());
@@ -236,7 +255,7 @@ private Q_SLOTS:
         show();
         const QVariant value = m_pHost->value(1);
         QSignalSpy changes(m_pHost->model(), &QAbstractItemModel::dataChanged);
-        const ModalDriver driver([this, kind](QDialog& dialog) {
+        const ModalDriver driver([kind](QDialog& dialog) {
             choose(dialog, kind);
             QTest::keyClick(&dialog, Qt::Key_Escape);
         });

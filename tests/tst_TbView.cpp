@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "ItemViewContract.h"
+#include "ItemKeyContract.h"
 
 #include <Tessera/views/TbView.h>
 
 #include <QHeaderView>
 
-class tst_TbView : public ItemViewContract
+class tst_TbView : public ItemKeyContract
 {
     Q_OBJECT
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "ItemViewContract.h"
+#include "ItemKeyContract.h"
 
 #include <Tessera/views/TrView.h>
 
 #include <QTreeView>
 
-class tst_TrView : public ItemViewContract
+class tst_TrView : public ItemKeyContract
 {
     Q_OBJECT
 

@@ -5,6 +5,8 @@ tessera_test(tst_TbModel SOURCES CellModels.h ItemModelContract.h)
 tessera_test(tst_TrModel SOURCES CellModels.h ItemModelContract.h)
 tessera_test(tst_StyledItemDelegate LIBRARIES Qt5::Svg SOURCES CellModels.h TestSupport.h data/pictures.qrc)
 set_target_properties(tst_StyledItemDelegate PROPERTIES AUTORCC ON)
+tessera_test(tst_ChangingCells SOURCES CellModels.h)
+tessera_test(tst_DoubleCells SOURCES CellModels.h)
 # The grid of the bit dialog is internal: its test brings its own copy, and the library must not show the other.
 tessera_test(tst_CBitModel SOURCES CellModels.h
     ${PROJECT_SOURCE_DIR}/src/Tessera/views/CBitModel.cpp ${PROJECT_SOURCE_DIR}/src/Tessera/views/CBitModel.h)
@@ -13,5 +15,5 @@ add_test(NAME CBitModelIsHidden COMMAND ${CMAKE_COMMAND}
     -P ${CMAKE_CURRENT_SOURCE_DIR}/CheckHidden.cmake)
 tessera_test(tst_CBitDialog SOURCES ModalDriver.h)
 tessera_test(tst_CPenDialog SOURCES ModalDriver.h)
-tessera_test(tst_TbView SOURCES CellModels.h ItemViewContract.h ModalDriver.h)
-tessera_test(tst_TrView SOURCES CellModels.h ItemViewContract.h ModalDriver.h)
+tessera_test(tst_TbView SOURCES CellModels.h ItemKeyContract.h ItemViewContract.h ModalDriver.h)
+tessera_test(tst_TrView SOURCES CellModels.h ItemKeyContract.h ItemViewContract.h ModalDriver.h)

@@ -41,67 +41,79 @@ private:
     QPersistentModelIndex m_cell;
 };
 
-void chooseColor(const OpenCell& cell, const QVariant& tValue)
+void toggle(const OpenCell& cell, const QModelIndex& index)
 {
-    const QColor color =
-        QColorDialog::getColor(ItemModel::toColor(tValue), nullptr, QString(), QColorDialog::ShowAlphaChannel);
+    cell.write(!index.data(Qt::EditRole).toBool());
+}
+
+void chooseColor(const OpenCell& cell, const QModelIndex& index)
+{
+    const QColor color = QColorDialog::getColor(ItemModel::toColor(index.data(Qt::EditRole)), nullptr, QString(),
+                                                QColorDialog::ShowAlphaChannel);
     if (color.isValid())
         cell.write(color);
 }
 
-void chooseFont(const OpenCell& cell, const QVariant& tValue)
+void chooseFont(const OpenCell& cell, const QModelIndex& index)
 {
     bool ok = false;
-    const QFont font = QFontDialog::getFont(&ok, tValue.value<QFont>(), nullptr, QString());
+    const QFont font = QFontDialog::getFont(&ok, index.data(Qt::EditRole).value<QFont>(), nullptr, QString());
     if (ok)
         cell.write(font);
 }
 
-void choosePen(const OpenCell& cell, const QVariant& tValue)
+void choosePen(const OpenCell& cell, const QModelIndex& index)
 {
     bool ok = false;
-    const QPen pen = CPenDialog::getPen(&ok, tValue.value<QPen>(), nullptr, QString());
+    const QPen pen = CPenDialog::getPen(&ok, index.data(Qt::EditRole).value<QPen>(), nullptr, QString());
     if (ok)
         cell.write(pen);
 }
 
-void editBits(const OpenCell& cell, const QVariant& tValue, const QVariant& tDescriptions)
+void editBits(const OpenCell& cell, const QModelIndex& index)
 {
-    const QByteArray tBytes =
-        CBitDialog::getByteArray(tValue.toByteArray(), tDescriptions.value<QMap<int, QString>>(), nullptr, QString());
-    if (!tBytes.isNull())
-        cell.write(tBytes);
+    const QByteArray tBytes = index.data(Qt::EditRole).toByteArray();
+    const auto tDescriptions = index.data(e_Role_BitDescriptions).value<QMap<int, QString>>();
+    const QByteArray tEdited = CBitDialog::getByteArray(tBytes, tDescriptions, nullptr, QString());
+    if (!tEdited.isNull())
+        cell.write(tEdited);
+}
+
+using Action = void (*)(const OpenCell& cell, const QModelIndex& index);
+
+//! Null where a click does nothing.
+Action actionOf(const QModelIndex& index)
+{
+    switch (index.data(e_Role_ItemType).toInt()) {
+    case e_Item_BoolText:
+    case e_Item_BoolPicture:
+        return toggle;
+    case e_Item_Color:
+        return chooseColor;
+    case e_Item_Font:
+        return chooseFont;
+    case e_Item_Pen:
+        return choosePen;
+    case e_Item_ByteArray:
+        return editBits;
+    default:
+        return nullptr;
+    }
 }
 
 } // namespace
 
 void actOnClick(QAbstractItemModel* pModel, const QModelIndex& index)
 {
-    if (pModel == nullptr || !index.isValid())
+    if (pModel == nullptr || !index.flags().testFlag(Qt::ItemIsEnabled)) // Qt's views tell of a click there, too
         return;
-    const OpenCell cell(pModel, index);
-    switch (index.data(e_Role_ItemType).toInt()) {
-    case e_Item_BoolText:
-    case e_Item_BoolPicture:
-        pModel->setData(index, QVariant(!index.data(Qt::EditRole).toBool()), Qt::EditRole);
-        break;
-    case e_Item_Color:
-        chooseColor(cell, index.data(Qt::EditRole));
-        break;
-    case e_Item_Font:
-        chooseFont(cell, index.data(Qt::EditRole));
-        break;
-    case e_Item_Pen:
-        choosePen(cell, index.data(Qt::EditRole));
-        break;
-    case e_Item_ByteArray: {
-        const QVariant tValue = index.data(Qt::EditRole);
-        editBits(cell, tValue, index.data(e_Role_BitDescriptions));
-        break;
-    }
-    default:
-        break;
-    }
+    if (const Action action = actionOf(index))
+        action(OpenCell(pModel, index), index);
+}
+
+bool actsOnClick(const QModelIndex& index)
+{
+    return actionOf(index) != nullptr;
 }
 
 } // namespace nsUI

@@ -39,7 +39,7 @@ QString rowText(const QAbstractItemModel* pModel, const QModelIndex& index, int 
 
 QString dataText(const QAbstractItemModel* pModel, const QModelIndex& index, const QVariant& tValue)
 {
-    const int nPosition = pModel->data(index, e_Role_Data).toList().indexOf(tValue);
+    const auto nPosition = pModel->data(index, e_Role_Data).toList().indexOf(tValue);
     const QStringList texts = pModel->data(index, e_Role_DataTexts).toStringList();
     return nPosition >= 0 && nPosition < texts.size() ? texts.at(nPosition) : undefinedText();
 }

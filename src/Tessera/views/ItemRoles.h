@@ -10,9 +10,9 @@ namespace nsUI {
 
     | kinds                | changed by                                       |
     |----------------------|--------------------------------------------------|
-    | 0, 4 to 8            | an editor that StyledItemDelegate makes           |
+    | 0, 4 to 8            | an editor that StyledItemDelegate makes          |
     | 1                    | the view's own check box                         |
-    | 2, 3, 9 to 12        | a click, which TbView and TrView act on          |
+    | 2, 3, 9 to 12        | a click or a key, which TbView and TrView act on |
 
     TbModel and TrModel derive what is shown from the value of every kind. An invalid index and every code that is not
     listed here count as e_Item_Plain.

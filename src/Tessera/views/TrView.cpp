@@ -2,6 +2,7 @@
 #include "TrView.h"
 
 #include "ItemClick_p.h"
+#include "ItemKey_p.h"
 
 namespace nsUI {
 
@@ -10,6 +11,15 @@ TrView::TrView(QWidget* parent)
 {
     setEditTriggers(QAbstractItemView::AllEditTriggers);
     connect(this, &QAbstractItemView::clicked, this, &TrView::slotClicked);
+}
+
+void TrView::keyPressEvent(QKeyEvent* event)
+{
+    actOnKey(
+        {this, state() == EditingState, [this](QKeyEvent* pEvent) { QTreeView::keyPressEvent(pEvent); },
+         [this](const QModelIndex& index, EditTrigger trigger, QEvent* pEvent) { return edit(index, trigger, pEvent); },
+         [this](const QModelIndex& index) { slotClicked(index); }},
+        event);
 }
 
 void TrView::slotClicked(const QModelIndex& index)
