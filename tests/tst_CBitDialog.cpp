@@ -6,6 +6,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHeaderView>
@@ -16,6 +17,7 @@
 #include <QPushButton>
 #include <QScopedPointer>
 #include <QScreen>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTranslator>
 #include <QtTest>
@@ -130,6 +132,7 @@ private Q_SLOTS:
     void resetReturnsToTheArrayThatWasGiven();
     void resetReturnsToTheArrayGivenLast();
     void resetOfAnEmptyArrayEmptiesTheGrid();
+    void aPasteAndItsUndoShowInAllThreePlaces();
 
     // The update by its source
     void anUpdateIsNotWrittenBackToItsSource_data();
@@ -142,6 +145,10 @@ private Q_SLOTS:
     // Showing
     void theColumnsFitTheirContentsOnEveryShow();
     void theGridStaysAModelWhileItIsEdited();
+
+    // By keys
+    void theTabKeyWalksTextsGridAndButtons();
+    void theArrowKeysWalkTheGrid();
 
     // The static call
     void theStaticCallAnswersWhatWasDone_data();
@@ -172,7 +179,7 @@ private:
     do {                                                                                                               \
         const QByteArray verified = (bytes);                                                                           \
         QCOMPARE(m_pDialog->byteArray(), verified);                                                                    \
-        QCOMPARE(m_p->gridBytes(verified.size()), verified);                                                           \
+        QCOMPARE(m_p->gridBytes(static_cast<int>(verified.size())), verified);                                         \
         QCOMPARE(m_p->pHex->text(), hexText(verified));                                                                \
         QCOMPARE(m_p->pBin->text(), binText(verified));                                                                \
     } while (false)
@@ -660,6 +667,20 @@ void tst_CBitDialog::resetOfAnEmptyArrayEmptiesTheGrid()
     QVERIFY(!m_p->pBin->isEnabled());
 }
 
+void tst_CBitDialog::aPasteAndItsUndoShowInAllThreePlaces()
+{
+    show(QByteArray("\x12\xAB"));
+    for (QLineEdit* const pEdit : {m_p->pHex, m_p->pBin}) {
+        pEdit->setFocus();
+        QGuiApplication::clipboard()->setText(pEdit == m_p->pHex ? QStringLiteral("0xF00D\n")
+                                                                 : QStringLiteral("0b1111_0000_0000_1101"));
+        QTest::keyClick(pEdit, Qt::Key_V, Qt::ControlModifier);
+        VERIFY_ALL_SHOW(QByteArray("\xF0\x0D"));
+        QTest::keyClick(pEdit, Qt::Key_Z, Qt::ControlModifier);
+        VERIFY_ALL_SHOW(QByteArray("\x12\xAB"));
+    }
+}
+
 // The update by its source
 
 void tst_CBitDialog::anUpdateIsNotWrittenBackToItsSource_data()
@@ -766,6 +787,49 @@ void tst_CBitDialog::theGridStaysAModelWhileItIsEdited()
     m_pDialog->setByteArray(QByteArray(9, '\x55'));
     m_pDialog->setBitDescMap({{70, QStringLiteral("high")}});
     VERIFY_ALL_SHOW(QByteArray(9, '\x55'));
+}
+
+// By keys
+
+void tst_CBitDialog::theTabKeyWalksTextsGridAndButtons()
+{
+    show(QByteArray("\x12\xAB"));
+    QList<QWidget*> stops{m_p->pHex, m_p->pBin, m_p->pView};
+    for (QPushButton* const pButton : m_p->pBox->findChildren<QPushButton*>())
+        stops << pButton;
+    QCOMPARE(stops.size(), 6);
+    m_p->pHex->setFocus();
+
+    QList<QWidget*> visited{QApplication::focusWidget()};
+    for (int i = 0; i < stops.size(); ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        visited << QApplication::focusWidget();
+    }
+    QCOMPARE(visited.first(), stops.first());
+    QCOMPARE(visited.last(), stops.first());
+    QCOMPARE(visited.mid(1, 2), stops.mid(1, 2));
+    QCOMPARE(QSet<QWidget*>(visited.cbegin(), visited.cend()), QSet<QWidget*>(stops.cbegin(), stops.cend()));
+
+    for (int i = 1; i < visited.size(); ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(QApplication::focusWidget(), visited.at(visited.size() - 1 - i));
+    }
+}
+
+void tst_CBitDialog::theArrowKeysWalkTheGrid()
+{
+    show(QByteArray("\x12\xAB"));
+    m_p->pView->setFocus();
+    m_p->pView->setCurrentIndex(m_p->pModel->index(0, 0));
+    const auto walk = [this](Qt::Key key) {
+        QTest::keyClick(m_p->pView, key);
+        return QPoint(m_p->pView->currentIndex().row(), m_p->pView->currentIndex().column());
+    };
+    QCOMPARE(walk(Qt::Key_Right), QPoint(0, 1));
+    QCOMPARE(walk(Qt::Key_Down), QPoint(1, 1));
+    QCOMPARE(walk(Qt::Key_Left), QPoint(1, 0));
+    QCOMPARE(walk(Qt::Key_Up), QPoint(0, 0));
+    QVERIFY(m_p->pView->hasFocus());
 }
 
 // The static call

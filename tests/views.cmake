@@ -11,8 +11,12 @@ tessera_test(tst_DoubleCells SOURCES CellModels.h)
 tessera_test(tst_CBitModel SOURCES CellModels.h
     ${PROJECT_SOURCE_DIR}/src/Tessera/views/CBitModel.cpp ${PROJECT_SOURCE_DIR}/src/Tessera/views/CBitModel.h)
 add_test(NAME CBitModelIsHidden COMMAND ${CMAKE_COMMAND}
-    -DNM=${CMAKE_NM} -DLIBRARY=$<TARGET_FILE:Tessera> -DNAMES=CBitModel
+    -DNM=${CMAKE_NM} -DLIBRARY=$<TARGET_FILE:Tessera> "-DNAMES=CBitModel;CDigitsEdit;DigitsText"
     -P ${CMAKE_CURRENT_SOURCE_DIR}/CheckHidden.cmake)
+# So is what a pasted text means.
+tessera_test(tst_DigitsText LIBRARIES ${TESSERA_TEST_HOST} SOURCES
+    ${PROJECT_SOURCE_DIR}/src/Tessera/views/DigitsText.cpp ${PROJECT_SOURCE_DIR}/src/Tessera/views/DigitsText_p.h)
+tessera_test(tst_CDigitsEdit)
 tessera_test(tst_CBitDialog SOURCES ModalDriver.h)
 tessera_test(tst_CPenDialog SOURCES ModalDriver.h)
 tessera_test(tst_TbView SOURCES CellModels.h ItemKeyContract.h ItemViewContract.h ModalDriver.h)

@@ -2,16 +2,17 @@
 #include "CBitDialog.h"
 
 #include "CBitModel.h"
+#include "CDigitsEdit.h"
 
 #include <CCommon.h>
 
 #include <Tessera/Tessera.h>
 #include <Tessera/views/TbView.h>
+#include <Tessera/widgets/ButtonBox_p.h>
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QPalette>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -27,33 +28,6 @@ QChar separator()
     return QLatin1Char(' ');
 }
 
-//! One group of digits a byte; '>' turns what is typed behind it into upper case.
-QString hexMask(int nBytes)
-{
-    QString sMask = QStringLiteral(" HH").repeated(nBytes);
-    sMask[0] = QLatin1Char('>');
-    return sMask;
-}
-
-QString binMask(int nBytes)
-{
-    return QStringLiteral(" BBBBBBBB").repeated(nBytes).mid(1);
-}
-
-/*!
-    A text of hexadecimal digits and blanks. Every font has them and sets them side by side, so what Qt does for all other
-    writing is left out: a long text is laid out and painted in two thirds of the time. All else of the font is inherited.
-*/
-QLineEdit* createDigitsEdit(QWidget* pParent)
-{
-    QFont font;
-    font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferNoShaping | QFont::NoFontMerging));
-    font.setKerning(false);
-    auto* const pEdit = new QLineEdit(pParent);
-    pEdit->setFont(font);
-    return pEdit;
-}
-
 //! The grid's colours are light ones in every palette, so its text is dark in every palette.
 void keepTextReadable(TbView* pView)
 {
@@ -67,8 +41,8 @@ void keepTextReadable(TbView* pView)
 
 struct Q_DECL_HIDDEN CBitDialog::PrivateData
 {
-    QLineEdit* pLEditHex = nullptr;
-    QLineEdit* pLEditBin = nullptr;
+    CDigitsEdit* pLEditHex = nullptr;
+    CDigitsEdit* pLEditBin = nullptr;
     CBitModel* pModel = nullptr;
     TbView* pView = nullptr;
     QByteArray tResetValue;
@@ -78,8 +52,8 @@ struct Q_DECL_HIDDEN CBitDialog::PrivateData
     void setLength(int nBytes)
     {
         if (nBytes > 0) {
-            pLEditHex->setInputMask(hexMask(nBytes));
-            pLEditBin->setInputMask(binMask(nBytes));
+            pLEditHex->setByteCount(nBytes);
+            pLEditBin->setByteCount(nBytes);
         }
         pLEditHex->setEnabled(nBytes > 0);
         pLEditBin->setEnabled(nBytes > 0);
@@ -148,8 +122,7 @@ QPushButton* CBitDialog::button(QDialogButtonBox::StandardButton which) const
 
 void CBitDialog::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
 {
-    if (QPushButton* const pButton = button(which))
-        pButton->setEnabled(enable);
+    ButtonBox::setEnabled(m_pData->pBtnBox, which, enable);
 }
 
 void CBitDialog::showEvent(QShowEvent* event)
@@ -167,13 +140,13 @@ void CBitDialog::showEvent(QShowEvent* event)
 void CBitDialog::slotUpdateUI(const QByteArray& tByteArray, int nFlag)
 {
     if (nFlag == 0)
-        m_pData->setLength(tByteArray.size());
+        m_pData->setLength(static_cast<int>(tByteArray.size()));
     if ((nFlag & FromTable) == 0)
         m_pData->pModel->setByteArray(tByteArray);
     if ((nFlag & FromHex) == 0)
-        m_pData->pLEditHex->setText(CCommon::byteAttryToHex(tByteArray, separator()));
+        m_pData->pLEditHex->setDigits(CCommon::byteAttryToHex(tByteArray, separator()));
     if ((nFlag & FromBin) == 0)
-        m_pData->pLEditBin->setText(CCommon::byteAttryToBin(tByteArray, separator()));
+        m_pData->pLEditBin->setDigits(CCommon::byteAttryToBin(tByteArray, separator()));
 }
 
 void CBitDialog::slotBtnResetClicked()
@@ -203,8 +176,8 @@ void CBitDialog::initUI()
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowTitle(tr("Bit Settings"));
 
-    m_pData->pLEditHex = createDigitsEdit(this);
-    m_pData->pLEditBin = createDigitsEdit(this);
+    m_pData->pLEditHex = new CDigitsEdit(16, this);
+    m_pData->pLEditBin = new CDigitsEdit(2, this);
     auto* const pForm = new QFormLayout;
     pForm->addRow(tr("HEX:"), m_pData->pLEditHex);
     pForm->addRow(tr("BIN:"), m_pData->pLEditBin);
@@ -213,6 +186,7 @@ void CBitDialog::initUI()
     m_pData->pView = new TbView(this);
     m_pData->pView->verticalHeader()->hide();
     m_pData->pView->setModel(m_pData->pModel);
+    m_pData->pView->setTabKeyNavigation(false); // the arrows walk it
     m_pData->pView->horizontalHeader()->setStretchLastSection(true);
     keepTextReadable(m_pData->pView);
 
@@ -232,8 +206,7 @@ void CBitDialog::initConnect()
     connect(m_pData->pModel, &CBitModel::sigByteArrayChanged, this, &CBitDialog::slotTableModelChanged);
     connect(m_pData->pLEditHex, &QLineEdit::textEdited, this, &CBitDialog::slotLEditHexTextChanged);
     connect(m_pData->pLEditBin, &QLineEdit::textEdited, this, &CBitDialog::slotLEditBinTextChanged);
-    connect(m_pData->pBtnBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(m_pData->pBtnBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    ButtonBox::connectTo(this, m_pData->pBtnBox);
 }
 
 } // namespace nsUI

@@ -24,6 +24,14 @@ namespace nsUI {
     Positions count from 0 at the least significant bit of the last byte. A text counts once all its digits are there;
     until then nothing follows it.
 
+    Digits are ASCII characters. What is pasted or dropped into a text may hold blanks, line ends and '_', and the mark
+    of the text's own base: 0x before or h behind it, 0b before it. As many digits as the array has replace it all; fewer
+    overwrite what stands from the cursor or the selection's start on, and the rest stays. Too many, the other base or
+    anything else changes nothing, and a tool tip at the text says why, by signs that need no translation.
+
+    An undo in a text takes back one digit, one deletion or one paste that was made in it. It reaches back to where the
+    text was last set from elsewhere: by the other text, the grid, Reset or setByteArray().
+
     The two texts make sense up to some kilobytes: every one of their digits is a position in an input mask, and a
     change sets and paints them whole. At 1 KiB that is a third of a frame of 16 ms, from 8 KiB on it is a whole frame
     and more, at 64 KiB a tenth of a second. The grid has no such limit.

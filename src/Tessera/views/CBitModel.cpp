@@ -39,7 +39,8 @@ CBitModel::Cell CBitModel::cellAt(const QModelIndex& index) const
         return {-1, 0, 0, 0};
     const int nByte = m_nBytesPerRow * (index.row() / c_nBits) + index.column() / c_nFields;
     const int nBit = index.row() % c_nBits;
-    return {m_tByteArray.size() - 1 - nByte, nBit, c_nBits * nByte + nBit, index.column() % c_nFields};
+    const int nLast = static_cast<int>(m_tByteArray.size()) - 1;
+    return {nLast - nByte, nBit, c_nBits * nByte + nBit, index.column() % c_nFields};
 }
 
 int CBitModel::rowCount(const QModelIndex& parent) const
@@ -114,7 +115,7 @@ bool CBitModel::setData(const QModelIndex& index, const QVariant& value, int rol
         return TbModel::setData(index, value, role);
 
     const int nMask = 1 << cell.nBit;
-    const int nByte = m_tByteArray.at(cell.nElement);
+    const int nByte = static_cast<uchar>(m_tByteArray.at(cell.nElement));
     m_tByteArray[cell.nElement] = static_cast<char>(value.toBool() ? nByte | nMask : nByte & ~nMask);
     Q_EMIT sigByteArrayChanged(m_tByteArray);
     Q_EMIT dataChanged(index, index);
@@ -133,7 +134,7 @@ void CBitModel::setByteArray(const QByteArray& tByteArray)
     if (tByteArray == m_tByteArray)
         return;
     beginResetModel();
-    const int nSize = tByteArray.size();
+    const int nSize = static_cast<int>(tByteArray.size());
     m_nBytesPerRow = nSize < 2 ? 1 : nSize > 4 ? 4 : 2;
     m_nByteRows = (nSize + m_nBytesPerRow - 1) / m_nBytesPerRow;
     m_tByteArray = tByteArray;

@@ -11,11 +11,12 @@
 namespace nsUI {
 
 /*!
-    The grid of the bit dialog: a byte array as one big-endian number, a row for each bit.
+    The grid of the bit dialog: a byte array as one big-endian number, bit by bit.
 
     Blocks of eight rows show one, two or four bytes side by side, each as three columns: position, value and
-    description. Byte 0, the array's last, is the leftmost of the first block; bit 0 stands on top. A cell is worked out
-    from its place alone, so it costs the same in an array of any size.
+    description. Byte 0, the array's last, is the leftmost of the first block; bit 0 stands on top. Cells beyond the
+    array are empty. A cell is worked out from its place, so showing one costs the same in an array of any size; a write
+    copies an array that somebody else still holds.
 */
 class CBitModel : public TbModel
 {
@@ -48,7 +49,7 @@ private:
     Cell cellAt(const QModelIndex& index) const;
     QColor background(const QModelIndex& index, const Cell& cell) const;
 
-    QByteArray m_tByteArray = QByteArray(""); // never null: a null array means a cancelled dialog
+    QByteArray m_tByteArray = QByteArray(""); // not null from the start: null means a cancelled dialog
     QMap<int, QString> m_tBitDescMap;
     QStringList m_tHeaders;
     int m_nByteRows = 0;
