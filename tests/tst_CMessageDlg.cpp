@@ -5,12 +5,14 @@
 #include <Tessera/widgets/CustomTextBrowser.h>
 
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QtTest>
+#include <QUrl>
 #include <QVBoxLayout>
 
 using nsUI::CMessageDlg;
@@ -32,6 +34,32 @@ protected:
     }
 };
 
+//! Takes what would go to the desktop's own browser.
+class LinkCatcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    LinkCatcher()
+    {
+        for (const QString& sScheme : schemes())
+            QDesktopServices::setUrlHandler(sScheme, this, "take");
+    }
+    ~LinkCatcher() override
+    {
+        for (const QString& sScheme : schemes())
+            QDesktopServices::unsetUrlHandler(sScheme);
+    }
+
+    QList<QUrl> links;
+
+public Q_SLOTS:
+    void take(const QUrl& url) { links << url; }
+
+private:
+    static QStringList schemes() { return {QStringLiteral("https"), QStringLiteral("file"), QString()}; }
+};
+
 } // namespace
 
 class tst_CMessageDlg : public QObject
@@ -50,6 +78,8 @@ private Q_SLOTS:
 
     void textIsAppendedInItsColour();
     void theTextIsKeptWhenItCloses();
+    void aLinkOpensNothing_data();
+    void aLinkOpensNothing();
 
     void itNeverAccepts_data();
     void itNeverAccepts();
@@ -165,6 +195,44 @@ void tst_CMessageDlg::theTextIsKeptWhenItCloses()
     QCOMPARE(m_pDialog->textBrowser()->toPlainText(), QStringLiteral("one\ntwo"));
     QTest::mouseClick(m_pDialog->button(QDialogButtonBox::Ok), Qt::LeftButton);
     QVERIFY(!m_pDialog->isVisible());
+}
+
+void tst_CMessageDlg::aLinkOpensNothing_data()
+{
+    QTest::addColumn<QString>("link");
+    QTest::addColumn<bool>("byKey");
+    for (const QString& sLink : {QStringLiteral("https://example.org/"), QStringLiteral("page.html"),
+                                 QStringLiteral("file:///etc/hostname"), QStringLiteral("#place")}) {
+        QTest::addRow("%s, mouse", qPrintable(sLink)) << sLink << false;
+        QTest::addRow("%s, key", qPrintable(sLink)) << sLink << true;
+    }
+}
+
+void tst_CMessageDlg::aLinkOpensNothing()
+{
+    QFETCH(QString, link);
+    QFETCH(bool, byKey);
+    CustomTextBrowser* const pBrowser = m_pDialog->textBrowser();
+    m_pDialog->appendColorText(QStringLiteral("<a href=\"%1\">link</a>").arg(link), Qt::red);
+    m_pDialog->appendColorText(QStringLiteral("the log goes on"), Qt::red);
+    m_pDialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_pDialog.data()));
+    const QString sLog = pBrowser->toHtml();
+    LinkCatcher catcher;
+    QSignalSpy clicked(pBrowser, &QTextBrowser::anchorClicked);
+    if (byKey) {
+        pBrowser->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(pBrowser, Qt::Key_Tab); // on to the link
+        QTest::keyClick(pBrowser, Qt::Key_Return);
+    } else {
+        const QRect place = pBrowser->cursorRect(QTextCursor(pBrowser->document()));
+        QTest::mouseClick(pBrowser->viewport(), Qt::LeftButton, Qt::NoModifier, place.center() + QPoint(3, 0));
+    }
+    QCOMPARE(clicked, (QList<QVariantList>{{QUrl(link)}})); // the host hears of it
+    QCOMPARE(pBrowser->toHtml(), sLog);
+    QCOMPARE(pBrowser->source(), QUrl());
+    QCOMPARE(catcher.links, QList<QUrl>());
+    QVERIFY(m_pDialog->isVisible());
 }
 
 void tst_CMessageDlg::itNeverAccepts_data()

@@ -20,6 +20,8 @@
 #include <QtTest>
 #include <QVBoxLayout>
 
+#include <memory>
+
 using nsUI::CDataComboBox;
 using nsUI::CPenDialog;
 
@@ -100,6 +102,8 @@ private Q_SLOTS:
     void aPenIsShown();
     void theColourIsInTheButtonsPaletteAlone();
     void aWidthBeyondTheRangeIsCutOff();
+    void anAcceptedWidthIsThatOfTheField_data();
+    void anAcceptedWidthIsThatOfTheField();
     void aPatternOfItsOwnLeavesTheStyleAsItIs();
     void anotherPenReplacesWhatIsShown();
     void theSamePenAgainChangesNothing();
@@ -109,6 +113,8 @@ private Q_SLOTS:
     void aCancelledColourDialogChangesNothing();
     void anotherColourLeavesWidthAndStyle();
     void aTypedWidthIsKept();
+    void aFinishedWidthIsShownAnew();
+    void aDialogMayBeDeletedWhileItsWidthHasTheFocus();
     void aWidthAboveTheRangeCannotBeTyped();
     void resetShowsTheGivenPenAgain();
     void resetShowsThePenGivenLast();
@@ -330,6 +336,29 @@ void tst_CPenDialog::aWidthBeyondTheRangeIsCutOff()
     QCOMPARE(m_pDialog->selectedPen().widthF(), 99.99);
 }
 
+void tst_CPenDialog::anAcceptedWidthIsThatOfTheField_data()
+{
+    QTest::addColumn<double>("given");
+    QTest::addColumn<double>("accepted");
+    QTest::newRow("too wide") << 150.0 << 99.99;
+    QTest::newRow("too fine") << 2.3456 << 2.35;
+    QTest::newRow("next to nothing") << 0.004 << 0.0;
+}
+
+void tst_CPenDialog::anAcceptedWidthIsThatOfTheField()
+{
+    QFETCH(double, given);
+    QFETCH(double, accepted);
+    const QPen pen(Qt::red, given);
+    for (const bool bAccepts : {true, false}) {
+        const ModalDriver driver(
+            [bAccepts](QDialog& dialog) { dialog.done(bAccepts ? QDialog::Accepted : QDialog::Rejected); });
+        const QPen answer = CPenDialog::getPen(nullptr, pen, nullptr, QString());
+        QVERIFY(driver.hasActed());
+        QCOMPARE(answer.widthF(), bAccepts ? accepted : given);
+    }
+}
+
 void tst_CPenDialog::aPatternOfItsOwnLeavesTheStyleAsItIs()
 {
     QPen pen(Qt::red, 3.5);
@@ -441,6 +470,37 @@ void tst_CPenDialog::aTypedWidthIsKept()
     QCOMPARE(m_p->shown(), QStringLiteral("#ffff0000;3.25;SolidLine"));
     QCOMPARE(m_pDialog->selectedPen().widthF(), 3.25);
     QCOMPARE(m_pDialog->currentPen().widthF(), 2.0);
+}
+
+void tst_CPenDialog::aFinishedWidthIsShownAnew()
+{
+    give(QPen(Qt::red, 2));
+    show();
+    m_p->pWidth->setFocus();
+    m_p->pWidth->selectAll();
+    QTest::keyClick(m_p->pWidth, Qt::Key_7);
+    QCOMPARE(m_p->pWidth->text(), QStringLiteral("7"));
+    Q_EMIT m_p->pWidth->editingFinished(); // the dialog's part: Qt's own would come before the signal
+    QCOMPARE(m_p->shown(), QStringLiteral("#ffff0000;7.00;SolidLine"));
+    QCOMPARE(m_pDialog->selectedPen().widthF(), 7.0);
+    QCOMPARE(m_pDialog->currentPen().widthF(), 2.0);
+}
+
+void tst_CPenDialog::aDialogMayBeDeletedWhileItsWidthHasTheFocus()
+{
+    for (const char* const key : {"", "7"}) {
+        auto pDialog = std::make_unique<CPenDialog>(fullPen(), nullptr);
+        pDialog->show();
+        QVERIFY(QTest::qWaitForWindowActive(pDialog.get()));
+        const QPointer<QDoubleSpinBox> pWidth = Parts(*pDialog).pWidth;
+        pWidth->setFocus();
+        QVERIFY(pWidth->hasFocus());
+        QTest::keyClicks(pWidth, QLatin1String(key));
+        QSignalSpy finished(pWidth.data(), &QDoubleSpinBox::editingFinished);
+        pDialog.reset();
+        QVERIFY(pWidth.isNull());
+        QCOMPARE(finished.count(), 1);
+    }
 }
 
 void tst_CPenDialog::aWidthAboveTheRangeCannotBeTyped()

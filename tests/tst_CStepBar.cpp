@@ -8,19 +8,23 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QImage>
+#include <QLabel>
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
 #include <QScopedPointer>
+#include <QScrollArea>
 #include <QSet>
 #include <QSignalSpy>
 #include <QStyleOptionButton>
 #include <QSvgRenderer>
 #include <QSvgWidget>
 #include <QtTest>
+#include <QVBoxLayout>
 
 #include <climits>
 #include <random>
+#include <utility>
 
 using nsUI::CStepBar;
 using nsUI::TesseraGlobal;
@@ -147,7 +151,7 @@ bool shows(QWidget* pWidget, const QColor& color)
 class ExpectedBar
 {
 public:
-    int count() const { return m_boxes.size(); }
+    int count() const { return static_cast<int>(m_boxes.size()); }
     int boxId(int nStep) const { return m_boxes.at(nStep); }
     int iconId(int nStep) const { return m_icons.at(nStep); }
     const QList<int>& layout() const { return m_layout; }
@@ -159,7 +163,7 @@ public:
         m_icons.insert(nStep, nIcon);
         m_boxes.insert(nStep, nBox);
         for (const int nId : {nBox, nIcon}) // a place beyond the end is the end
-            m_layout.insert(qMin(2 * nStep + 1, m_layout.size()), nId);
+            m_layout.insert(qMin(2 * nStep + 1, static_cast<int>(m_layout.size())), nId);
     }
 
     void remove(int nIndex)
@@ -179,7 +183,7 @@ public:
     {
         if (alignment == CStepBar::AlignCenter)
             return;
-        take(m_layout.size() - 1);
+        take(static_cast<int>(m_layout.size()) - 1);
         take(0);
         if (alignment == CStepBar::AlignStart)
             m_layout.append(nRoom);
@@ -196,6 +200,54 @@ private:
     QList<int> m_boxes;
     QList<int> m_layout{nRoom, nRoom};
     QSet<int> m_deleted;
+};
+
+/*!
+    A column of steps below a text that needs the more height the narrower it is, on a page that is too narrow for the
+    steps: so the text takes from their height.
+*/
+class NarrowPage : public QScrollArea
+{
+public:
+    NarrowPage(int nSteps, int nWords)
+    {
+        auto* const pText = new QLabel(QStringLiteral("word ").repeated(nWords));
+        pText->setWordWrap(true);
+        auto* const pBar = new CStepBar;
+        pBar->setDirection(QBoxLayout::TopToBottom);
+        pBar->addStep(QStringLiteral("a step with a name that is longer than the page is wide"));
+        for (int i = 1; i < nSteps; ++i)
+            pBar->addStep(QString::number(i));
+        auto* const pCard = new QWidget;
+        auto* const pColumn = new QVBoxLayout(pCard);
+        pColumn->addWidget(pText);
+        pColumn->addWidget(pBar);
+        auto* const pContent = new QWidget;
+        auto* const pLayout = new QVBoxLayout(pContent);
+        pLayout->addWidget(pCard);
+        pLayout->addStretch(1);
+
+        setWidgetResizable(true);
+        setWidget(pContent);
+        pContent->installEventFilter(this); // before the scroll area's own
+        resize(600, 200);
+        show();
+        pContent->setFixedWidth(60);
+    }
+
+    //! How often the page's content has changed its size since the last call. It is stopped at a number.
+    int takeResizes() { return std::exchange(m_nResizes, 0); }
+
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        if (pWatched == widget() && pEvent->type() == QEvent::Resize && ++m_nResizes > 60)
+            return true;
+        return QScrollArea::eventFilter(pWatched, pEvent);
+    }
+
+private:
+    int m_nResizes = 0;
 };
 
 //! A bar beside what it is expected to hold.
@@ -286,7 +338,7 @@ private:
         QCOMPARE(added.size(), 2);
         QWidget* const pBox = box(m_bar, sText);
         QVERIFY(added.remove(pBox));
-        const int nIcon = m_widgets.size();
+        const int nIcon = static_cast<int>(m_widgets.size());
         m_widgets << *added.begin() << pBox;
         m_expected.insert(nIndex, nIcon, nIcon + 1);
     }
@@ -376,6 +428,9 @@ private Q_SLOTS:
     void otherArrowsAreLeftAsTheyAre();
     void arrowsPointInTheDirection_data();
     void arrowsPointInTheDirection();
+    void arrowsPointTheOtherWayWhereTextRunsFromTheRight_data();
+    void arrowsPointTheOtherWayWhereTextRunsFromTheRight();
+    void arrowsFollowTheDirectionOfText();
     void theSameDirectionReloadsNothing();
     void aChangeOfTheLayoutsOwnDirectionCounts();
     void anUnknownDirectionHasNoArrows();
@@ -383,6 +438,11 @@ private Q_SLOTS:
     void arrowsAreAsHighAndWideAsTheFirstStep();
     void theFirstStepAloneTellsTheArrowsSize();
     void arrowsGetTheirSizeWithTheNextResize();
+    void aSqueezedStepDoesNotShrinkTheArrows_data();
+    void aSqueezedStepDoesNotShrinkTheArrows();
+    void aStepThatIsKeptLowKeepsTheArrowsLow();
+    void aScrollAreaComesToRest_data();
+    void aScrollAreaComesToRest();
     void anEmptyBarCanBeResized();
 
     // Enabling
@@ -403,6 +463,11 @@ private Q_SLOTS:
     void aReportCountsTheStepsAsTheyAre();
     void everyReleaseIsAClick();
     void aPressThatIsDraggedOffTurnsTheCheckOver();
+    void aPressThatEndsWithDisablingIsNoClick_data();
+    void aPressThatEndsWithDisablingIsNoClick();
+    void aClickMayDisableTheStep_data();
+    void aClickMayDisableTheStep();
+    void aStepsKeyClicksIt();
     void nothingElseReports();
     void aStepMayBeRemovedWhileItReports();
     void theBarMayBeDeletedWhileItReports();
@@ -790,6 +855,82 @@ void tst_CStepBar::arrowsPointInTheDirection()
         QCOMPARE(picture(arrow(*m_pBar, i)), sForward);
 }
 
+void tst_CStepBar::arrowsPointTheOtherWayWhereTextRunsFromTheRight_data()
+{
+    QTest::addColumn<QBoxLayout::Direction>("direction");
+    QTest::addColumn<QString>("arrowPicture");
+    QTest::addColumn<QPoint>("way"); // from a step to the next
+    QTest::newRow("0") << QBoxLayout::LeftToRight << sBack << QPoint(-1, 0);
+    QTest::newRow("1") << QBoxLayout::RightToLeft << sForward << QPoint(1, 0);
+    QTest::newRow("2") << QBoxLayout::TopToBottom << sDownward << QPoint(0, 1);
+    QTest::newRow("3") << QBoxLayout::BottomToTop << sUpward << QPoint(0, -1);
+}
+
+void tst_CStepBar::arrowsPointTheOtherWayWhereTextRunsFromTheRight()
+{
+    QFETCH(QBoxLayout::Direction, direction);
+    QFETCH(QString, arrowPicture);
+    QFETCH(QPoint, way);
+    m_pBar->addStep(QStringLiteral("A")); // before
+    m_pBar->setDirection(direction);
+    m_pBar->setLayoutDirection(Qt::RightToLeft);
+    m_pBar->addStep({QStringLiteral("B"), QStringLiteral("C")}); // and after
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(picture(arrow(*m_pBar, i)), arrowPicture); // the hidden one too
+    QCOMPARE(layoutOf(*m_pBar)->direction(), direction);
+
+    m_pBar->resize(400, 400);
+    m_pBar->show();
+    for (int i = 1; i < 3; ++i) {
+        const QPoint toArrow = arrow(*m_pBar, i)->geometry().center() - box(*m_pBar, i - 1)->geometry().center();
+        const QPoint toStep = box(*m_pBar, i)->geometry().center() - arrow(*m_pBar, i)->geometry().center();
+        QVERIFY(QPoint::dotProduct(toArrow, way) > 0);
+        QVERIFY(QPoint::dotProduct(toStep, way) > 0);
+    }
+}
+
+void tst_CStepBar::arrowsFollowTheDirectionOfText()
+{
+    QWidget window;
+    auto* const pBar = new CStepBar(&window);
+    pBar->addStep(abc);
+    const auto pictures = [&] {
+        QStringList all;
+        for (int i = 0; i < 3; ++i)
+            all << picture(arrow(*pBar, i));
+        return all;
+    };
+    const QStringList forward{sForward, sForward, sForward};
+    const QStringList back{sBack, sBack, sBack};
+    window.setLayoutDirection(Qt::RightToLeft); // that of the bar's window
+    QCOMPARE(pictures(), back);
+    window.setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(pictures(), forward);
+    window.unsetLayoutDirection();
+    QApplication::setLayoutDirection(Qt::RightToLeft); // that of the application
+    const QStringList mirrored = pictures();
+    CStepBar other;
+    other.addStep(QStringLiteral("A"));
+    const QString sOther = picture(arrow(other, 0));
+    pBar->setDirection(QBoxLayout::TopToBottom);
+    pBar->setDirection(QBoxLayout::LeftToRight);
+    const QStringList turned = pictures();
+    pBar->setLayoutDirection(Qt::LeftToRight); // the bar's own
+    const QStringList own = pictures();
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(mirrored, back);
+    QCOMPARE(sOther, sBack);
+    QCOMPARE(turned, back);
+    QCOMPARE(own, forward);
+    QCOMPARE(pictures(), forward);
+
+    QWidget rightToLeft;
+    rightToLeft.setLayoutDirection(Qt::RightToLeft);
+    pBar->unsetLayoutDirection();
+    pBar->setParent(&rightToLeft); // that of a new parent
+    QCOMPARE(pictures(), back);
+}
+
 void tst_CStepBar::theSameDirectionReloadsNothing()
 {
     m_pBar->addStep(abc);
@@ -897,6 +1038,68 @@ void tst_CStepBar::arrowsGetTheirSizeWithTheNextResize()
     m_pBar->resize(m_pBar->width() + 1, m_pBar->height());
     const int nHeight = box(*m_pBar, 0)->height();
     QCOMPARE(arrow(*m_pBar, 1)->maximumSize(), QSize(nHeight, nHeight));
+}
+
+void tst_CStepBar::aSqueezedStepDoesNotShrinkTheArrows_data()
+{
+    QTest::addColumn<QBoxLayout::Direction>("direction");
+    QTest::newRow("a row") << QBoxLayout::LeftToRight;
+    QTest::newRow("a column") << QBoxLayout::TopToBottom;
+}
+
+void tst_CStepBar::aSqueezedStepDoesNotShrinkTheArrows()
+{
+    QFETCH(QBoxLayout::Direction, direction);
+    QWidget window; // without a layout, so that the bar can be smaller than it should be
+    auto* const pBar = new CStepBar(&window);
+    pBar->setDirection(direction);
+    pBar->addStep(abc);
+    pBar->resize(400, 400);
+    window.show();
+    const int nHeight = box(*pBar, 0)->height();
+    const QSize needed = pBar->layout()->totalMinimumSize();
+    QVERIFY(nHeight > 1);
+    for (const QSize& size : {QSize(400, 24), QSize(24, 24), QSize(1, 1), QSize(24, 400)}) {
+        pBar->resize(size);
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(arrow(*pBar, i)->maximumSize(), QSize(nHeight, nHeight));
+        QCOMPARE(pBar->layout()->totalMinimumSize(), needed);
+    }
+}
+
+void tst_CStepBar::aStepThatIsKeptLowKeepsTheArrowsLow()
+{
+    m_pBar->addStep(abc);
+    box(*m_pBar, 0)->setFixedHeight(7); // less than its text needs
+    show({});
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(arrow(*m_pBar, i)->maximumSize(), QSize(7, 7));
+}
+
+void tst_CStepBar::aScrollAreaComesToRest_data()
+{
+    QTest::addColumn<QString>("sheet");
+    QTest::newRow("the library's sheet") << QString::fromUtf8(
+        TestSupport::contentOf(QStringLiteral(":/qss/Tessera.qss")));
+    QTest::newRow("larger letters") << QStringLiteral("*{font-size:20pt}");
+    QTest::newRow("roomier steps") << QStringLiteral("QCheckBox{padding:8px}");
+}
+
+void tst_CStepBar::aScrollAreaComesToRest()
+{
+    QFETCH(QString, sheet);
+    for (int nSteps = 2; nSteps < 6; ++nSteps) {
+        for (int nWords = 10; nWords < 70; nWords += 7) {
+            NarrowPage page(nSteps, nWords);
+            for (const QString& sSheet : {sheet, QString()}) {
+                qApp->setStyleSheet(sSheet);
+                page.resize(page.width(), page.height() + 10); // while layout is pending
+                QCoreApplication::processEvents();
+                QVERIFY2(page.takeResizes() < 20,
+                         qPrintable(QStringLiteral("%1 steps, %2 words").arg(nSteps).arg(nWords)));
+            }
+        }
+    }
 }
 
 void tst_CStepBar::anEmptyBarCanBeResized()
@@ -1106,7 +1309,7 @@ void tst_CStepBar::everyReleaseIsAClick()
     QCOMPARE(reports.takeLast(), QVariantList{2});
     QTest::keyClick(box(*m_pBar, 2), Qt::Key_Space);
     QCOMPARE(reports.takeLast(), QVariantList{2});
-    box(*m_pBar, 0)->animateClick(0);
+    box(*m_pBar, 0)->animateClick();
     QTRY_COMPARE(reports.count(), 1);
     QCOMPARE(reports.takeLast(), QVariantList{0});
     QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("100"));
@@ -1119,13 +1322,105 @@ void tst_CStepBar::aPressThatIsDraggedOffTurnsTheCheckOver()
     QSignalSpy reports(m_pBar.data(), &CStepBar::sigStepClicked);
     QCheckBox* const pBox = box(*m_pBar, 2);
     QTest::mousePress(pBox, Qt::LeftButton, Qt::NoModifier, pBox->rect().center());
-    QMouseEvent away(QEvent::MouseMove, QPointF(-50, -50), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    const QPointF outside(-50, -50);
+    QMouseEvent away(QEvent::MouseMove, outside, outside, outside, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(pBox, &away);
     QCOMPARE(reports, (QList<QVariantList>{{2}}));
     QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("101"));
     QTest::mouseRelease(pBox, Qt::LeftButton, Qt::NoModifier, QPoint(-50, -50));
     QCOMPARE(reports.count(), 1);
     QCOMPARE(m_pBar->currentIndex(), 0);
+}
+
+void tst_CStepBar::aPressThatEndsWithDisablingIsNoClick_data()
+{
+    QTest::addColumn<QString>("disabled");
+    QTest::addColumn<bool>("byKey");
+    for (const bool bByKey : {false, true}) {
+        for (const QString& sDisabled :
+             {QStringLiteral("the step"), QStringLiteral("all steps"), QStringLiteral("the bar")})
+            QTest::addRow("%s, %s", qPrintable(sDisabled), bByKey ? "key" : "mouse") << sDisabled << bByKey;
+    }
+}
+
+void tst_CStepBar::aPressThatEndsWithDisablingIsNoClick()
+{
+    QFETCH(QString, disabled);
+    QFETCH(bool, byKey);
+    show();
+    m_pBar->slotSetCurrentStep(0);
+    QSignalSpy reports(m_pBar.data(), &CStepBar::sigStepClicked);
+    QCheckBox* const pBox = box(*m_pBar, 2);
+    const auto enable = [&](bool bEnabled) {
+        if (disabled == QLatin1String("the step"))
+            m_pBar->setStepEnabled(2, bEnabled);
+        else if (disabled == QLatin1String("all steps"))
+            m_pBar->setStepEnabled(bEnabled);
+        else
+            m_pBar->setEnabled(bEnabled);
+    };
+    if (byKey)
+        QTest::keyPress(pBox, Qt::Key_Space);
+    else
+        QTest::mousePress(pBox, Qt::LeftButton);
+    QVERIFY(pBox->isDown());
+    enable(false);
+    QVERIFY(!pBox->isDown());
+    QCOMPARE(reports.count(), 0);
+    QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("100"));
+    if (byKey)
+        QTest::keyRelease(pBox, Qt::Key_Space);
+    else
+        QTest::mouseRelease(pBox, Qt::LeftButton);
+    QCOMPARE(reports.count(), 0);
+    QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("100"));
+
+    enable(true); // and it works again
+    click(2);
+    QCOMPARE(reports, (QList<QVariantList>{{2}}));
+    QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("100"));
+}
+
+void tst_CStepBar::aClickMayDisableTheStep_data()
+{
+    QTest::addColumn<QString>("when");
+    QTest::newRow("as it is pressed") << QStringLiteral("pressed"); // Qt's click() goes on all the same
+    QTest::newRow("as its check is turned over") << QStringLiteral("toggled");
+    QTest::newRow("in the report") << QStringLiteral("report");
+}
+
+void tst_CStepBar::aClickMayDisableTheStep()
+{
+    QFETCH(QString, when);
+    show();
+    m_pBar->slotSetCurrentStep(0);
+    QSignalSpy reports(m_pBar.data(), &CStepBar::sigStepClicked);
+    QCheckBox* const pBox = box(*m_pBar, 2);
+    const auto disable = [&] { m_pBar->setStepEnabled(false); };
+    if (when == QLatin1String("pressed"))
+        connect(pBox, &QCheckBox::pressed, this, disable);
+    else if (when == QLatin1String("toggled"))
+        connect(pBox, &QCheckBox::toggled, this, disable);
+    else
+        connect(m_pBar.data(), &CStepBar::sigStepClicked, this, disable);
+    pBox->click();
+    QVERIFY(!pBox->isEnabled());
+    QCOMPARE(reports, (QList<QVariantList>{{2}}));
+    QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("100"));
+}
+
+void tst_CStepBar::aStepsKeyClicksIt()
+{
+    show({QStringLiteral("&Read"), QStringLiteral("R && &D")});
+    m_pBar->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_pBar.data()));
+    QSignalSpy reports(m_pBar.data(), &CStepBar::sigStepClicked);
+    QTest::keyClick(m_pBar.data(), Qt::Key_D, Qt::AltModifier);
+    QTRY_COMPARE(reports, (QList<QVariantList>{{1}}));
+    QTest::keyClick(m_pBar.data(), Qt::Key_R, Qt::AltModifier);
+    QTRY_COMPARE(reports, (QList<QVariantList>{{1}, {0}}));
+    QCOMPARE(m_pBar->stepText(1), QStringLiteral("R && &D"));
+    QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("00"));
 }
 
 void tst_CStepBar::nothingElseReports()

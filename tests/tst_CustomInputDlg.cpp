@@ -38,7 +38,6 @@ class tst_CustomInputDlg : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theFirstFieldHasTheFocus();
     void init();
     void cleanup();
 
@@ -52,6 +51,14 @@ private Q_SLOTS:
     void theDialogTakesTheFields();
     void aLabelLeadsToItsField();
     void rowsStandAtTheTopAndButtonsAtTheBottom();
+
+    void theFirstFieldHasTheFocus();
+    void theFirstFieldThatTakesTabHasTheFocus();
+    void aRowMayHaveNoField();
+    void tabGoesRound_data();
+    void tabGoesRound();
+    void tabGoesRoundWithButtonsThatComeLater();
+    void theFocusGivenToTheButtonsIsTheFirstButtons();
 
     void theHostAddsTheButtons();
     void theButtonsDoNothingOfThemselves();
@@ -257,6 +264,113 @@ void tst_CustomInputDlg::theFirstFieldHasTheFocus()
     QVERIFY(!dialog.button(QDialogButtonBox::Apply));
     dialog.setBtnEnable(QDialogButtonBox::Ok, false);
     QVERIFY(!dialog.button(QDialogButtonBox::Ok)->isEnabled());
+}
+
+//! A field that leaves the focus to a part of it, one that is left out, and one that only a click reaches.
+void tst_CustomInputDlg::theFirstFieldThatTakesTabHasTheFocus()
+{
+    auto* const pClicked = new QLineEdit;
+    pClicked->setFocusPolicy(Qt::ClickFocus);
+    auto* const pFramed = new QWidget;
+    auto* const pInner = new QLineEdit(pFramed);
+    pFramed->setFocusProxy(pInner);
+    m_pDialog->addRow(QStringLiteral("Clicked:"), pClicked);
+    m_pDialog->addRow(QStringLiteral("Framed:"), pFramed);
+    m_pDialog->addRow(QStringLiteral("Last:"), new QLineEdit);
+    m_pDialog->buttonBox()->setStandardButtons(QDialogButtonBox::Ok);
+    m_pDialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_pDialog.data()));
+    QCOMPARE(QApplication::focusWidget(), pInner);
+}
+
+void tst_CustomInputDlg::aRowMayHaveNoField()
+{
+    m_pDialog->addRow(QStringLiteral("A heading"), nullptr);
+    auto* const pField = new QLineEdit;
+    m_pDialog->addRow(QStringLiteral("Name:"), pField);
+    const QFormLayout* const pForm = formOf(*m_pDialog);
+    QCOMPARE(pForm->rowCount(), 2);
+    const auto* const pLabel = qobject_cast<QLabel*>(pForm->itemAt(0, QFormLayout::LabelRole)->widget());
+    QVERIFY(pLabel);
+    QCOMPARE(pLabel->text(), QStringLiteral("A heading"));
+    QVERIFY(!pForm->itemAt(0, QFormLayout::FieldRole));
+    m_pDialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_pDialog.data()));
+    QCOMPARE(QApplication::focusWidget(), pField);
+}
+
+void tst_CustomInputDlg::tabGoesRound_data()
+{
+    QTest::addColumn<int>("fields");
+    QTest::addColumn<bool>("buttonsFirst");
+    for (const int nFields : {1, 2, 3}) {
+        QTest::addRow("%d fields, then buttons", nFields) << nFields << false;
+        QTest::addRow("buttons, then %d fields", nFields) << nFields << true;
+    }
+}
+
+void tst_CustomInputDlg::tabGoesRound()
+{
+    QFETCH(int, fields);
+    QFETCH(bool, buttonsFirst);
+    const auto buttons = QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help;
+    if (buttonsFirst)
+        m_pDialog->buttonBox()->setStandardButtons(buttons);
+    QWidgetList stops;
+    for (int i = 0; i < fields; ++i) {
+        stops << new QSpinBox;
+        m_pDialog->addRow(QString::number(i), stops.last());
+    }
+    if (!buttonsFirst)
+        m_pDialog->buttonBox()->setStandardButtons(buttons);
+    m_pDialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_pDialog.data()));
+    const QLayout* const pButtons = m_pDialog->buttonBox()->layout();
+    for (int i = 0; i < pButtons->count(); ++i) {
+        if (QWidget* const pButton = pButtons->itemAt(i)->widget())
+            stops << pButton;
+    }
+    const int nStops = fields + 3;
+    QCOMPARE(stops.size(), nStops);
+    for (int nStop = 0; nStop < 2 * nStops; ++nStop) {
+        QCOMPARE(QApplication::focusWidget(), stops.at(nStop % nStops));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    for (int nStop = 2 * nStops; nStop > 0; --nStop) {
+        QCOMPARE(QApplication::focusWidget(), stops.at(nStop % nStops));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    }
+}
+
+void tst_CustomInputDlg::tabGoesRoundWithButtonsThatComeLater()
+{
+    auto* const pField = new QLineEdit;
+    m_pDialog->addRow(QStringLiteral("Name:"), pField);
+    m_pDialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_pDialog.data()));
+    QPushButton* const pOk = m_pDialog->buttonBox()->addButton(QDialogButtonBox::Ok);
+    QPushButton* const pCancel = m_pDialog->buttonBox()->addButton(QDialogButtonBox::Cancel);
+    m_pDialog->setStyleSheet(QStringLiteral("QPushButton { color: red }")); // lays them out anew
+    for (int nRound = 0; nRound < 2; ++nRound) {
+        for (QWidget* const pStop : QWidgetList{pField, pOk, pCancel}) {
+            QCOMPARE(QApplication::focusWidget(), pStop);
+            QTest::keyClick(pStop, Qt::Key_Tab);
+        }
+    }
+}
+
+void tst_CustomInputDlg::theFocusGivenToTheButtonsIsTheFirstButtons()
+{
+    auto* const pField = new QLineEdit;
+    m_pDialog->addRow(QStringLiteral("Name:"), pField);
+    QPushButton* const pOk = m_pDialog->buttonBox()->addButton(QDialogButtonBox::Ok);
+    m_pDialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_pDialog.data()));
+    QTest::keyClick(pField, Qt::Key_Tab);
+    QTest::keyClick(pOk, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), pField);
+    m_pDialog->buttonBox()->setFocus();
+    QCOMPARE(QApplication::focusWidget(), pOk);
 }
 
 QTEST_MAIN(tst_CustomInputDlg)

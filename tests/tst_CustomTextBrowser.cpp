@@ -13,6 +13,7 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <climits>
 #include <functional>
 
 using nsUI::CustomTextBrowser;
@@ -143,6 +144,7 @@ private Q_SLOTS:
     void withoutFlagsTheMenuIsTheStandardOne();
     void otherFlagsAddNothing();
     void theClearEntryComesLast();
+    void theClearEntryIsOneOfSeveralFlags();
     void theClearEntryIsTranslated();
     void theClearEntryEmptiesTheBrowser();
     void theMenuKnowsTheSelection();
@@ -368,6 +370,12 @@ void tst_CustomTextBrowser::aTestAsksForAnyBit_data()
     QTest::newRow("several in one of them") << 0x1 << 0x3 << true;
     QTest::newRow("several in another") << 0x4 << 0x3 << false;
     QTest::newRow("several that overlap") << 0x6 << 0x3 << true;
+    QTest::newRow("all in one") << 0x4 << -1 << true;
+    QTest::newRow("all in none") << 0x0 << -1 << false;
+    QTest::newRow("the highest in itself") << INT_MIN << INT_MIN << true; // the sign of the number
+    QTest::newRow("the highest in all") << -1 << INT_MIN << true;
+    QTest::newRow("all in the highest") << INT_MIN << -1 << true;
+    QTest::newRow("the highest in all others") << INT_MAX << INT_MIN << false;
 }
 
 void tst_CustomTextBrowser::aTestAsksForAnyBit()
@@ -415,6 +423,19 @@ void tst_CustomTextBrowser::theClearEntryComesLast()
         QVERIFY(pClear->shortcut().isEmpty());
     };
     QVERIFY(openMenu(*m_pBrowser, checkEntry));
+}
+
+void tst_CustomTextBrowser::theClearEntryIsOneOfSeveralFlags()
+{
+    const QStringList without = menuOf(*m_pBrowser);
+    const QStringList with = without + QStringList{QStringLiteral("Clear")};
+    m_pBrowser->setMenuActFlag(bits(0x7), true);
+    QCOMPARE(menuOf(*m_pBrowser), with);
+    m_pBrowser->setMenuActFlag(bits(0x6), false);
+    QCOMPARE(menuOf(*m_pBrowser), with);
+    m_pBrowser->setMenuActFlag(bits(0x3), false);
+    QCOMPARE(menuOf(*m_pBrowser), without);
+    QVERIFY(!m_pBrowser->testMenuActFlag(bits(-1)));
 }
 
 void tst_CustomTextBrowser::theClearEntryIsTranslated()

@@ -605,9 +605,18 @@ void tst_FontSettingDlg::onlyTheSameSpellingIsADuplicate()
 void tst_FontSettingDlg::withoutAPickTheApplicationsFamilyIsAdded()
 {
     make({sTwo, sOne});
-    const QString sOwn = m_p->pFont->currentFont().family();
+    const QString sOwn = QFontComboBox().currentFont().family();
     QVERIFY(sOwn != sTwo);
     QVERIFY(!sOwn.isEmpty());
+    QCOMPARE(m_p->pFont->currentText(), sTwo);
+    show();
+    QTest::mouseClick(m_p->pAdd, Qt::LeftButton);
+    QCOMPARE(m_p->families(), (QStringList{sOwn, sTwo, sOne}));
+
+    make({sTwo, sOne}); // nor does it matter where the focus has been
+    show();
+    m_p->pFont->setFocus();
+    m_p->pSize->setFocus();
     QTest::mouseClick(m_p->pAdd, Qt::LeftButton);
     QCOMPARE(m_p->families(), (QStringList{sOwn, sTwo, sOne}));
 }
@@ -789,7 +798,7 @@ void tst_FontSettingDlg::okStoresAllFourValues()
 void tst_FontSettingDlg::okStoresWhatWasEdited()
 {
     make({QStringLiteral("A"), QStringLiteral("B")}, 12, true, true);
-    const ModalDriver driver([this](QDialog& dialog) {
+    const ModalDriver driver([](QDialog& dialog) {
         const Parts parts(dialog);
         parts.add(sOne);
         parts.pList->setCurrentRow(1);

@@ -182,10 +182,12 @@ void tst_Palette::picksBlackOrWhiteByLuminance_data()
 
     // Around the threshold itself, with channels of 16 bits: this grey has the luminance 0.179.
     const double dGrey = 1.055 * std::pow(0.179, 1 / 2.4) - 0.055;
-    QTest::newRow("a grey just below 0.179")
-        << QColor::fromRgbF(dGrey - 0.0001, dGrey - 0.0001, dGrey - 0.0001) << white;
-    QTest::newRow("a grey just above 0.179")
-        << QColor::fromRgbF(dGrey + 0.0001, dGrey + 0.0001, dGrey + 0.0001) << black;
+    const auto grey = [](double d) {
+        const auto channel = static_cast<float>(d);
+        return QColor::fromRgbF(channel, channel, channel);
+    };
+    QTest::newRow("a grey just below 0.179") << grey(dGrey - 0.0001) << white;
+    QTest::newRow("a grey just above 0.179") << grey(dGrey + 0.0001) << black;
     QTest::newRow("an invalid colour, which is black") << QColor() << white;
 }
 
@@ -276,9 +278,9 @@ void tst_Palette::shufflesTheColours()
     ordered.removeAll(0xFF000000U);
     ordered.removeAll(0xFFFFFFFFU);
     int nFollowing = 0;
-    int nAt = ordered.indexOf(TesseraGlobal::instance().getRandColor().rgba());
+    auto nAt = ordered.indexOf(TesseraGlobal::instance().getRandColor().rgba());
     for (int n = 0; n < nRandomColors; ++n) {
-        const int nNext = ordered.indexOf(TesseraGlobal::instance().getRandColor().rgba());
+        const auto nNext = ordered.indexOf(TesseraGlobal::instance().getRandColor().rgba());
         nFollowing += nNext == nAt + 1 ? 1 : 0;
         nAt = nNext;
     }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "CMessageDlg.h"
 
+#include <Tessera/widgets/ButtonBox_p.h>
 #include <Tessera/widgets/CustomTextBrowser.h>
 
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace nsUI {
@@ -33,8 +33,7 @@ QPushButton* CMessageDlg::button(QDialogButtonBox::StandardButton which)
 
 void CMessageDlg::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
 {
-    if (QPushButton* const pButton = button(which))
-        pButton->setEnabled(enable);
+    ButtonBox::setEnabled(m_pBtnBox, which, enable);
 }
 
 void CMessageDlg::appendColorText(const QString& text, const QColor& color)
@@ -48,6 +47,7 @@ void CMessageDlg::initUI()
     setWindowFlag(Qt::WindowCloseButtonHint, false);
 
     m_pTextBrowser = new CustomTextBrowser(this);
+    m_pTextBrowser->setOpenLinks(false);
     m_pBtnBox = new QDialogButtonBox(QDialogButtonBox::Ok, this);
 
     auto* const pLayout = new QVBoxLayout(this);

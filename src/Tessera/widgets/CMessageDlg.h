@@ -23,6 +23,9 @@ class CustomTextBrowser;
     OK closes the dialog and does not accept it, so exec() answers QDialog::Rejected. Closing keeps the text, and the
     dialog can be shown again. The title bar has neither a close nor a help button; the Escape key closes, as in every
     QDialog.
+
+    A link in the text opens nothing, for a log may come from anywhere, and a browser that followed it would lose the
+    log. A host that trusts its links connects textBrowser()'s anchorClicked(), to QDesktopServices::openUrl() say.
 */
 class TESSERA_EXPORT CMessageDlg : public QDialog
 {

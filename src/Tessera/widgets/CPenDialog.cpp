@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CPenDialog.h"
 
+#include <Tessera/widgets/ButtonBox_p.h>
 #include <Tessera/widgets/CDataComboBox.h>
 
 #include <QColorDialog>
@@ -24,6 +25,12 @@ CPenDialog::CPenDialog(const QPen& pen, QWidget* parent)
     : CPenDialog(parent)
 {
     setCurrentPen(pen);
+}
+
+CPenDialog::~CPenDialog()
+{
+    // QDialog's destructor hides the window: the width loses the focus, and says so when there is no pen any more.
+    m_pDSpxWidth->disconnect(this);
 }
 
 QPen CPenDialog::getPen(bool* ok, const QPen& initial, QWidget* parent, const QString& title)
@@ -93,8 +100,7 @@ QPushButton* CPenDialog::button(QDialogButtonBox::StandardButton which) const
 
 void CPenDialog::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
 {
-    if (QPushButton* const pButton = button(which))
-        pButton->setEnabled(enable);
+    ButtonBox::setEnabled(m_pBtnBox, which, enable);
 }
 
 void CPenDialog::slotBtnColorClicked()
@@ -143,8 +149,7 @@ void CPenDialog::initConnect()
     connect(m_pCbxStyle, qOverload<int>(&QComboBox::currentIndexChanged), this, showSelected);
     connect(m_pBtnBox->button(QDialogButtonBox::Reset), &QPushButton::clicked, this,
             [this] { updateUI(m_tCurrentPen); });
-    connect(m_pBtnBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(m_pBtnBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    ButtonBox::connectTo(this, m_pBtnBox);
 }
 
 QColor CPenDialog::getBtnColor() const

@@ -25,6 +25,9 @@ class CDataComboBox;
 
     The dialog knows two pens: currentPen(), which it was given, and selectedPen(), which its widgets show. Accepting
     does not turn the one into the other.
+
+    The width field holds 0 to 99.99 in hundredths. A pen that is accepted has been cut off and rounded to that, even where
+    the user has left its width alone: a host whose pens are wider or finer has to look after their widths itself.
 */
 class TESSERA_EXPORT CPenDialog : public QDialog
 {
@@ -33,10 +36,11 @@ class TESSERA_EXPORT CPenDialog : public QDialog
 public:
     explicit CPenDialog(QWidget* parent = nullptr);
     CPenDialog(const QPen& pen, QWidget* parent);
+    ~CPenDialog() override;
 
     /*!
-        Lets the user edit \a initial in a modal dialog. The answer is the chosen pen, or \a initial on a cancel;
-        \a ok, unless null, tells which. An empty \a title leaves the dialog's own.
+        Lets the user edit \a initial in a modal dialog. The answer is the chosen pen, which is at most 99.99 wide, or
+        \a initial on a cancel; \a ok, unless null, tells which. An empty \a title leaves the dialog's own.
     */
     static QPen getPen(bool* ok, const QPen& initial, QWidget* parent, const QString& title);
 

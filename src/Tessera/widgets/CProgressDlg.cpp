@@ -3,8 +3,9 @@
 
 #include "ui_CProgressDlg.h"
 
+#include <Tessera/widgets/ButtonBox_p.h>
+
 #include <QKeyEvent>
-#include <QPushButton>
 
 namespace nsUI {
 
@@ -79,8 +80,7 @@ int CProgressDlg::value() const
 
 void CProgressDlg::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
 {
-    if (QPushButton* const pButton = button(which))
-        pButton->setEnabled(enable);
+    ButtonBox::setEnabled(buttonBox(), which, enable);
 }
 
 bool CProgressDlg::btnEnable(QDialogButtonBox::StandardButton which)

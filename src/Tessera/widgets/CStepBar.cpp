@@ -2,6 +2,7 @@
 #include "CStepBar.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QLayoutItem>
 #include <QSvgWidget>
 
@@ -20,6 +21,62 @@ bool isStretchedBehind(CStepBar::Alignment nAlignment)
 {
     return nAlignment != CStepBar::AlignEnd;
 }
+
+//! The arrow that points along a layout. Where text runs from the right, a row runs the other way than it is called.
+QString iconPath(const QBoxLayout& layout)
+{
+    const bool bMirrored = layout.parentWidget()->isRightToLeft();
+    switch (layout.direction()) {
+    case QBoxLayout::LeftToRight:
+        return bMirrored ? QStringLiteral(":/svg/primary/arrow-back.svg")
+                         : QStringLiteral(":/svg/primary/arrow-forward.svg");
+    case QBoxLayout::RightToLeft:
+        return bMirrored ? QStringLiteral(":/svg/primary/arrow-forward.svg")
+                         : QStringLiteral(":/svg/primary/arrow-back.svg");
+    case QBoxLayout::TopToBottom:
+        return QStringLiteral(":/svg/primary/arrow-downward.svg");
+    case QBoxLayout::BottomToTop:
+        return QStringLiteral(":/svg/primary/arrow-upward.svg");
+    }
+    return QString();
+}
+
+//! An arrow of a bar with this layout; it turns round when the bar is mirrored.
+class StepArrow : public QSvgWidget
+{
+public:
+    StepArrow(const QBoxLayout* pLayout, QWidget* pParent)
+        : QSvgWidget(iconPath(*pLayout), pParent)
+        , m_pLayout(pLayout)
+    {
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QSvgWidget::changeEvent(event);
+        if (event->type() == QEvent::LayoutDirectionChange)
+            load(iconPath(*m_pLayout));
+    }
+
+private:
+    const QBoxLayout* m_pLayout;
+};
+
+//! A step. One that is disabled while it is pressed is let go, and not clicked: QAbstractButton would say released().
+class StepBox : public QCheckBox
+{
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::EnabledChange && !isEnabled())
+            setDown(false);
+        QCheckBox::changeEvent(event);
+    }
+};
 
 } // namespace
 
@@ -49,8 +106,8 @@ void CStepBar::insertStep(int index, const QString& text)
 {
     const int nStep = std::max(0, std::min(index, count()));
 
-    auto* const pIcon = new QSvgWidget(getCurIconPath(), this);
-    auto* const pBox = new QCheckBox(text, this);
+    auto* const pIcon = new StepArrow(m_pLayout, this);
+    auto* const pBox = new StepBox(text, this);
     pBox->setEnabled(m_bStepEnabled);
     pBox->setFocusPolicy(Qt::NoFocus);
     connect(pBox, &QAbstractButton::released, this, &CStepBar::slotStepClicked);
@@ -78,7 +135,7 @@ void CStepBar::remove(int index)
 
 int CStepBar::count() const
 {
-    return m_tBoxes.size();
+    return static_cast<int>(m_tBoxes.size());
 }
 
 int CStepBar::currentIndex()
@@ -150,7 +207,8 @@ void CStepBar::resizeEvent(QResizeEvent* event)
     const QCheckBox* const pFirst = m_tBoxes.value(0);
     if (pFirst == nullptr)
         return;
-    const int nSide = pFirst->height();
+    // A step that is squeezed must not shrink the arrows: the bar would need less room, get less, and so on for ever.
+    const int nSide = std::max(pFirst->height(), std::min(pFirst->minimumSizeHint().height(), pFirst->maximumHeight()));
     for (QSvgWidget* const pIcon : qAsConst(m_tIcons)) {
         if (pIcon != nullptr)
             pIcon->setFixedSize(nSide, nSide);
@@ -163,24 +221,14 @@ void CStepBar::slotStepClicked()
     if (pBox == nullptr)
         return;
     pBox->setChecked(!pBox->isChecked());
-    const int nIndex = m_tBoxes.indexOf(pBox);
+    const int nIndex = static_cast<int>(m_tBoxes.indexOf(pBox));
     if (nIndex >= 0)
         Q_EMIT sigStepClicked(nIndex);
 }
 
 QString CStepBar::getCurIconPath() const
 {
-    switch (m_pLayout->direction()) {
-    case QBoxLayout::LeftToRight:
-        return QStringLiteral(":/svg/primary/arrow-forward.svg");
-    case QBoxLayout::RightToLeft:
-        return QStringLiteral(":/svg/primary/arrow-back.svg");
-    case QBoxLayout::TopToBottom:
-        return QStringLiteral(":/svg/primary/arrow-downward.svg");
-    case QBoxLayout::BottomToTop:
-        return QStringLiteral(":/svg/primary/arrow-upward.svg");
-    }
-    return QString();
+    return iconPath(*m_pLayout);
 }
 
 void CStepBar::updateIcon()
@@ -201,10 +249,14 @@ void CStepBar::updateIconVisible()
         pSecond->show();
 }
 
-//! Where the arrow of a step stands in the layout, and its box before the arrow is there.
+/*!
+    Where the arrow of a step stands in the layout, and its box before the arrow is there. Counted by the alignment that
+    it was made with, a layout that has got another one can end before that.
+*/
 int CStepBar::layoutIndex(int nStep) const
 {
-    return 2 * nStep + (isStretchedBefore(m_nAlignment) ? 1 : 0);
+    const int nPlace = 2 * nStep + (isStretchedBefore(m_nAlignment) ? 1 : 0);
+    return std::min(nPlace, m_pLayout->count());
 }
 
 } // namespace nsUI

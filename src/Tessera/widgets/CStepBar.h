@@ -26,9 +26,10 @@ namespace nsUI {
 
     The host's resources hold the arrows, ":/svg/primary/arrow-forward.svg", "arrow-back.svg", "arrow-downward.svg" and
     "arrow-upward.svg" beside it. An arrow stands before its step and is as high and wide as the first step, from the
-    next resize on.
+    next resize on; in a bar that is too small for its steps, as the first step should be.
 
-    Steps are counted from 0.
+    Steps are counted from 0. An ampersand in a step's text marks the letter behind it as the step's key with Alt, as
+    in every button's text; "&&" shows one.
 */
 class TESSERA_EXPORT CStepBar : public QWidget
 {
@@ -65,7 +66,10 @@ public:
     //! The same for one step, as long as steps can be clicked; ignored otherwise, as is an \a index outside the steps.
     void setStepEnabled(int index, bool enabled);
 
-    //! Lays the steps out in \a direction, with arrows that point there.
+    /*!
+        Lays the steps out in \a direction, with arrows that point there. Where text runs from the right (layoutDirection()),
+        Qt mirrors a row, and LeftToRight has the first step on the right; the arrows show that, and follow when it changes.
+    */
     void setDirection(QBoxLayout::Direction direction);
 
     /*!
@@ -84,7 +88,8 @@ public:
 Q_SIGNALS:
     /*!
         The step at \a nIndex was clicked. Its check, which the click has turned over, is turned back before. A press
-        that is dragged off the step counts as well; nothing has turned its check over then, but this does.
+        that is dragged off the step counts as well; nothing has turned its check over then, but this does. A step that
+        is disabled while it is pressed is not clicked.
     */
     void sigStepClicked(int nIndex);
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "CustomInputDlg.h"
 
+#include <Tessera/widgets/ButtonBox_p.h>
+
 #include <QFormLayout>
-#include <QPushButton>
+#include <QPointer>
 #include <QVBoxLayout>
 
 namespace nsUI {
@@ -43,8 +45,20 @@ QPushButton* CustomInputDlg::button(QDialogButtonBox::StandardButton which) cons
 
 void CustomInputDlg::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
 {
-    if (QPushButton* const pButton = button(which))
-        pButton->setEnabled(enable);
+    ButtonBox::setEnabled(m_pBtnBox, which, enable);
+}
+
+// The button box is older than the fields and hands the focus on to its first button, which is mostly younger: Tab
+// would come from the last button to the box, and so to the first button again.
+bool CustomInputDlg::focusNextPrevChild(bool next)
+{
+    const QPointer<QDialogButtonBox> pBtnBox = m_pBtnBox;
+    const QPointer<QWidget> pFirst = m_pBtnBox->focusProxy();
+    m_pBtnBox->setFocusProxy(nullptr);
+    const bool isMoved = QDialog::focusNextPrevChild(next);
+    if (pBtnBox)
+        pBtnBox->setFocusProxy(pFirst);
+    return isMoved;
 }
 
 void CustomInputDlg::initUI()

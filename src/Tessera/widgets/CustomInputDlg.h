@@ -37,6 +37,9 @@ public:
     QPushButton* button(QDialogButtonBox::StandardButton which) const;      //!< null when there is no such button
     void setBtnEnable(QDialogButtonBox::StandardButton which, bool enable); //!< nothing when there is none
 
+protected:
+    bool focusNextPrevChild(bool next) override; //!< Tab goes round all fields and buttons
+
 private:
     void initUI();
 

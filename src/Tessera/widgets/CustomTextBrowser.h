@@ -10,7 +10,12 @@
 
 namespace nsUI {
 
-//! A text browser for a log in colours, with a context menu to which an entry "Clear" can be added.
+/*!
+    A text browser for a log in colours, with a context menu to which an entry "Clear" can be added.
+
+    A link in the text is followed as in every QTextBrowser, which loses the log: call setOpenLinks(false) where text can
+    hold one, and connect anchorClicked() where it is to be opened.
+*/
 class TESSERA_EXPORT CustomTextBrowser : public QTextBrowser
 {
     Q_OBJECT

@@ -6,9 +6,10 @@
 #include <CCommon.h>
 
 #include <Tessera/Tessera.h>
+#include <Tessera/widgets/ButtonBox_p.h>
 
 #include <QLabel>
-#include <QPushButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace nsUI {
@@ -17,6 +18,13 @@ namespace {
 QString settingsGroup()
 {
     return QStringLiteral("Setting_AppFont");
+}
+
+//! Shows a family that nobody has picked. Silently: Qt 6 takes every text that the box tells of for its font.
+void showFamily(QFontComboBox* pCbxFont, const QString& sFamily)
+{
+    const QSignalBlocker blocker(pCbxFont);
+    pCbxFont->setCurrentText(sFamily);
 }
 
 } // namespace
@@ -58,8 +66,7 @@ QPushButton* FontSettingDlg::button(QDialogButtonBox::StandardButton which) cons
 
 void FontSettingDlg::setBtnEnable(QDialogButtonBox::StandardButton which, bool enable)
 {
-    if (QPushButton* const pButton = button(which))
-        pButton->setEnabled(enable);
+    ButtonBox::setEnabled(buttonBox(), which, enable);
 }
 
 void FontSettingDlg::initUI()
@@ -74,7 +81,7 @@ void FontSettingDlg::initUI()
     m_pFont->readSettings(CCommon::instance().getSettings(QString()), settingsGroup());
     const QStringList& families = m_pFont->families;
     m_pUi->pListWdgFont->addItems(families);
-    m_pUi->pCbxFont->setCurrentText(families.isEmpty() ? m_pUi->pCbxFont->currentFont().family() : families.first());
+    showFamily(m_pUi->pCbxFont, families.isEmpty() ? m_pUi->pCbxFont->currentFont().family() : families.first());
     m_pUi->pISpxSize->setValue(m_pFont->pointSize);
     m_pUi->pCkxBold->setChecked(m_pFont->bold);
     m_pUi->pCkxItalic->setChecked(m_pFont->italic);
@@ -88,8 +95,7 @@ void FontSettingDlg::initConnect()
     connect(m_pUi->pISpxSize, qOverload<int>(&QSpinBox::valueChanged), this, &FontSettingDlg::slotUpdateExample);
     connect(m_pUi->pCkxBold, &QCheckBox::clicked, this, &FontSettingDlg::slotUpdateExample);
     connect(m_pUi->pCkxItalic, &QCheckBox::clicked, this, &FontSettingDlg::slotUpdateExample);
-    connect(m_pUi->buttonBox, &QDialogButtonBox::accepted, this, &FontSettingDlg::slotAccept);
-    connect(m_pUi->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    ButtonBox::connectTo(this, buttonBox(), &FontSettingDlg::slotAccept);
 }
 
 //! Leaves each family in the list once, at its first place, and answers what is left.

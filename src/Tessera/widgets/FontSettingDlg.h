@@ -32,8 +32,9 @@ struct tagAppFont;
 
     The plus button puts the family that was picked in the combo box at the top of the list, and takes away an older
     entry of the same name; while none was picked it takes the application's own, not the first family of the list that
-    the box starts with. The minus button removes the current family, or the last one when none is current. An empty
-    list is a choice too: it leaves the family to the application.
+    the box starts with. A name that is typed is picked when the box finds it in its own list, with Qt 6 letter by letter.
+    The minus button removes the current family, or the last one when none is current. An empty list is a choice too: it
+    leaves the family to the application.
 
     Its icons, ":/svg/primary/text.svg", "plus.svg" and "minus.svg", are the host's. The two check boxes have a dynamic
     property "qssIconName" with the value "Switch", by which a host's style sheet can draw them as switches.
