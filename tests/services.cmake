@@ -26,6 +26,7 @@ tessera_test(tst_ApplicationFont LIBRARIES ${TESSERA_TEST_HOST})
 tessera_test_resources(tst_ApplicationFont FONT_RESOURCES fonts)
 tessera_test(tst_Palette)
 tessera_test(tst_WidgetUtilities)
+tessera_test(tst_CWheelGuard)
 
 # A host library of another maker has tests of its own.
 if(NOT TESSERA_HOST_TARGET)
