@@ -4,6 +4,12 @@
 function(tessera_compile_options target)
     target_compile_features(${target} PRIVATE cxx_std_17)
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    # Said outright: for a standard that is the compiler's own, CMake would pass nothing on, not even that there are to
+    # be no extensions, and clang-tidy would go by the standard that is clang's own.
+    get_target_property(standard ${target} CXX_STANDARD)
+    if(NOT standard)
+        set_target_properties(${target} PROPERTIES CXX_STANDARD 17)
+    endif()
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
     if(TESSERA_WERROR)
         target_compile_options(${target} PRIVATE -Werror)

@@ -204,7 +204,8 @@ void tst_QCsvDocument::decodesInTheCodecGiven_data()
             QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
             const QString sContent = sText + QStringLiteral(",b\r\nc");
             QTest::newRow(name) << QByteArray(name)
-                                << pCodec->fromUnicode(sContent.constData(), sContent.size(), &state) << sText;
+                                << pCodec->fromUnicode(sContent.constData(), static_cast<int>(sContent.size()), &state)
+                                << sText;
         }
     }
     QTextCodec* const pUtf16 = QTextCodec::codecForName("UTF-16");

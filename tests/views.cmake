@@ -3,7 +3,7 @@
 tessera_test(tst_ItemRoles)
 tessera_test(tst_TbModel SOURCES CellModels.h ItemModelContract.h)
 tessera_test(tst_TrModel SOURCES CellModels.h ItemModelContract.h)
-tessera_test(tst_StyledItemDelegate LIBRARIES Qt5::Svg SOURCES CellModels.h TestSupport.h data/pictures.qrc)
+tessera_test(tst_StyledItemDelegate LIBRARIES Qt${TESSERA_QT}::${TESSERA_SVG_WIDGETS} SOURCES CellModels.h TestSupport.h data/pictures.qrc)
 set_target_properties(tst_StyledItemDelegate PROPERTIES AUTORCC ON)
 tessera_test(tst_ChangingCells SOURCES CellModels.h)
 tessera_test(tst_DoubleCells SOURCES CellModels.h)

@@ -28,7 +28,7 @@ QString bytesToText(const QByteArray& tBytes, const QChar& cSeparator, int nDigi
     if (tBytes.isEmpty())
         return QString();
     const bool separated = !cSeparator.isNull();
-    const int nSize = tBytes.size() * nDigits + (separated ? tBytes.size() - 1 : 0);
+    const auto nSize = tBytes.size() * nDigits + (separated ? tBytes.size() - 1 : 0);
     QString sText(nSize, Qt::Uninitialized);
     QChar* pOut = sText.data();
     for (int i = 0; i < tBytes.size(); ++i) {
@@ -83,7 +83,7 @@ QByteArray CCommon::byteAttryFromBin(const QString& sText)
     const auto nDigits = std::count_if(sText.cbegin(), sText.cend(), [](QChar c) { return !isSeparator(c); });
     const int nSize = static_cast<int>((nDigits + c_nBinDigits - 1) / c_nBinDigits);
     QByteArray tBytes(nSize, '\0');
-    qint64 nBit = nDigits;
+    auto nBit = static_cast<quint64>(nDigits);
     for (const QChar c : sText) {
         if (isSeparator(c))
             continue;

@@ -47,7 +47,7 @@ bool decode(const QByteArray& tBytes, QTextCodec* pCodec, QByteArray* pUtf8)
 {
     QTextCodec* const pUsed = pCodec != nullptr ? pCodec : QTextCodec::codecForName("UTF-8");
     QTextCodec::ConverterState state;
-    *pUtf8 = pUsed->toUnicode(tBytes.constData(), tBytes.size(), &state).toUtf8();
+    *pUtf8 = pUsed->toUnicode(tBytes.constData(), static_cast<int>(tBytes.size()), &state).toUtf8();
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
@@ -92,13 +92,13 @@ bool QCsvDocument::loadFile(const QString& sPath, QTextCodec* pCodec)
         return false;
     m_tRows = rows.all;
     for (const QStringList& tRow : qAsConst(m_tRows))
-        m_nColumns = std::max(m_nColumns, tRow.size());
+        m_nColumns = std::max(m_nColumns, static_cast<int>(tRow.size()));
     return true;
 }
 
 int QCsvDocument::rowCount() const
 {
-    return m_tRows.size();
+    return static_cast<int>(m_tRows.size());
 }
 
 int QCsvDocument::columnCount() const

@@ -11,6 +11,7 @@
 #include <QFile>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
@@ -29,6 +30,8 @@ void check(bool bOk, const char* what)
 int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
+
+    check(QT_VERSION_MAJOR == CONSUMER_QT && std::atoi(qVersion()) == CONSUMER_QT, "it is the Qt that was asked for");
 
     nsUI::CU16SpinBox box;
     box.setMaximum(65535);

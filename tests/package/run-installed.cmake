@@ -28,7 +28,7 @@ foreach(text IN LISTS texts)
 endforeach()
 
 # What the library exports of its own are the classes of its public headers, member by member.
-run(${NM} -DC --defined-only ${prefix}/${INSTALL_LIBDIR}/libTessera.so)
+run(${NM} -DC --defined-only ${prefix}/${INSTALL_LIBDIR}/libTessera${TESSERA_QT_SUFFIX}.so)
 string(REPLACE ";" "," symbols "${RUN_OUTPUT}")
 string(REPLACE "\n" ";" symbols "${symbols}")
 set(public TesseraGlobal tagAppFont)
@@ -55,7 +55,7 @@ endif()
 # A host application finds the package and its libraries by itself.
 string(REGEX MATCH "^[0-9]+\\.[0-9]+" version ${TESSERA_VERSION})
 configure(${CMAKE_CURRENT_LIST_DIR}/installed ${WORK_DIR}/build -DCMAKE_PREFIX_PATH=${prefix}
-          -DWANTED_VERSION=${version})
+          -DWANTED_PACKAGE=${TESSERA_PACKAGE} -DWANTED_VERSION=${version} -DCONSUMER_QT=${TESSERA_QT})
 build(${WORK_DIR}/build)
 run(${WORK_DIR}/build/consumer)
 
@@ -68,16 +68,29 @@ if(result EQUAL 0 OR NOT errors MATCHES "99\\.0")
 endif()
 
 if(NOT PKG_CONFIG)
-    message(STATUS "pkg-config not found: Tessera.pc is not tried")
+    message(STATUS "pkg-config not found: ${TESSERA_PACKAGE}.pc is not tried")
     return()
 endif()
-set(pkg_config ${CMAKE_COMMAND} -E env "PKG_CONFIG_PATH=${prefix}/${INSTALL_LIBDIR}/pkgconfig" ${PKG_CONFIG})
-run(${pkg_config} --modversion Tessera)
-string(STRIP "${RUN_OUTPUT}" version)
-expect_equal("Version of Tessera.pc" "${version}" "${TESSERA_VERSION}")
-run(${pkg_config} --cflags --libs Tessera)
-separate_arguments(flags UNIX_COMMAND "${RUN_OUTPUT}")
-separate_arguments(own_flags UNIX_COMMAND "${CXX_FLAGS}")
-run(${CXX_COMPILER} ${own_flags} -std=c++17 -fPIC -DCONSUMER_WITHOUT_HOST ${CMAKE_CURRENT_LIST_DIR}/consumer.cpp
-    -o ${WORK_DIR}/pkgconfig-consumer ${flags} -Wl,-rpath,${prefix}/${INSTALL_LIBDIR})
-run(${WORK_DIR}/pkgconfig-consumer)
+run_pkgconfig_consumer(${TESSERA_PACKAGE} ${TESSERA_QT} ${prefix}/${INSTALL_LIBDIR}/pkgconfig ${WORK_DIR}/pkgconfig-consumer)
+
+# Each example builds by the command in its first line, and does what it is there to show.
+file(GLOB examples ${TESSERA_SOURCE_DIR}/examples/*.cpp)
+list(LENGTH examples count)
+if(count LESS 4)
+    message(FATAL_ERROR "Only ${count} examples were found")
+endif()
+file(MAKE_DIRECTORY ${WORK_DIR}/examples)
+file(COPY ${examples} DESTINATION ${WORK_DIR}/examples)
+foreach(example IN LISTS examples)
+    get_filename_component(name ${example} NAME_WE)
+    file(STRINGS ${example} command LIMIT_COUNT 1)
+    if(NOT command MATCHES "^// (c\\+\\+ .*)$")
+        message(FATAL_ERROR "${example} does not begin with the command that builds it")
+    endif()
+    # The compiler, its flags, the package and the place of the libraries are those of this build.
+    string(REGEX REPLACE "^c\\+\\+" "${CXX_COMPILER} ${CXX_FLAGS}" command "${CMAKE_MATCH_1}")
+    string(REPLACE " Tessera)" " ${TESSERA_PACKAGE})" command "${command}")
+    run(sh -c "cd ${WORK_DIR}/examples && export PKG_CONFIG_PATH=${prefix}/${INSTALL_LIBDIR}/pkgconfig && ${command} \
+-Wl,-rpath,${prefix}/${INSTALL_LIBDIR}")
+    run(${WORK_DIR}/examples/${name} --once)
+endforeach()

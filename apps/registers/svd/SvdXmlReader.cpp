@@ -1,0 +1,366 @@
+// SPDX-License-Identifier: MIT
+#include "svd/SvdXmlReader.h"
+
+#include "svd/SvdNumber.h"
+#include "svd/SvdProgressMeter.h"
+#include "text/Quoted.h"
+
+#include <QIODevice>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QTextCodec>
+#else
+#include <QStringDecoder>
+#endif
+
+namespace registers {
+
+namespace {
+
+constexpr quint32 kTokensPerTick = 512;
+constexpr qint64 kHeadSize = 16384;
+constexpr int kUsualTextLength = 1024;
+
+const QString& numberExpected()
+{
+    static const QString text = QStringLiteral("a number such as 64, 0x40 or #1000000, of at most 64 bits");
+    return text;
+}
+
+/// Compares keywords without regard to case and to what stands between the words, which vendors mix up. @p folded has lower
+/// case letters only.
+bool isKeyword(QStringView text, const char* folded)
+{
+    for (const QChar c : text) {
+        if (c == QLatin1Char('-') || c == QLatin1Char('_') || c == QLatin1Char('/') || c.isSpace()) {
+            continue;
+        }
+        if (*folded == '\0' || (c != QLatin1Char(*folded) && c.toLower() != QLatin1Char(*folded))) {
+            return false;
+        }
+        ++folded;
+    }
+    return *folded == '\0';
+}
+
+struct AccessKeyword
+{
+    const char* folded;
+    Access access;
+};
+
+// The most frequent one first, and after the schema's own the short forms that are met.
+constexpr AccessKeyword kAccessKeywords[] = {
+    {"readwrite", Access::ReadWrite},
+    {"readonly", Access::ReadOnly},
+    {"writeonly", Access::WriteOnly},
+    {"writeonce", Access::WriteOnce},
+    {"readwriteonce", Access::ReadWriteOnce},
+    {"rw", Access::ReadWrite},
+    {"ro", Access::ReadOnly},
+    {"wo", Access::WriteOnly},
+    {"read", Access::ReadOnly},
+    {"write", Access::WriteOnly},
+};
+
+/// A text in the encoding that its byte order mark names, or else one character a byte.
+QString decoded(const QByteArray& bytes)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("ISO-8859-1"))->toUnicode(bytes);
+#else
+    return QStringDecoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Latin1)).decode(bytes);
+#endif
+}
+
+/// The position of the first character in @p head that is no white space, from @p start on.
+SvdPosition skipSpace(const QByteArray& head, SvdPosition start)
+{
+    const QString text = decoded(head);
+    SvdPosition at{1, 1};
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool isReached = at.line > start.line || (at.line == start.line && at.column >= start.column);
+        if (isReached && !c.isSpace()) {
+            return at;
+        }
+        const bool isPair = c == QLatin1Char('\r') && i + 1 < text.size() && text.at(i + 1) == QLatin1Char('\n');
+        if (c == QLatin1Char('\n') || (c == QLatin1Char('\r') && !isPair)) {
+            at = {at.line + 1, 1};
+        } else if (!isPair) {
+            ++at.column;
+        }
+    }
+    return start;
+}
+
+} // namespace
+
+SvdXmlReader::SvdXmlReader(QIODevice& input, SvdProgressMeter& meter)
+    : m_meter(meter)
+    , m_head(input.peek(kHeadSize))
+{
+    m_xml.setDevice(&input);
+    // Prefixes mean nothing in this format, and files that use one without declaring it shall be read.
+    m_xml.setNamespaceProcessing(false);
+    // Without a reservation every QString::resize(0) would give the memory back.
+    m_text.reserve(kUsualTextLength);
+}
+
+QXmlStreamReader::TokenType SvdXmlReader::advance()
+{
+    const QXmlStreamReader::TokenType token = m_xml.readNext();
+    switch (token) {
+    case QXmlStreamReader::StartElement:
+        if (++m_depth > kMaxXmlDepth) {
+            fail(m_position, QStringLiteral("elements are nested more than %1 deep").arg(kMaxXmlDepth));
+        }
+        break;
+    case QXmlStreamReader::EndElement:
+        --m_depth;
+        break;
+    case QXmlStreamReader::Invalid:
+        failInXml();
+        break;
+    default:
+        break;
+    }
+    if (++m_tokens % kTokensPerTick == 0) {
+        tick();
+    }
+    return token;
+}
+
+/// Goes to the next child of the present element; false when there are no more.
+bool SvdXmlReader::nextChild()
+{
+    while (!m_isOver) {
+        m_position = position();
+        const QXmlStreamReader::TokenType token = advance();
+        if (token == QXmlStreamReader::StartElement) {
+            return !m_isOver;
+        }
+        if (token == QXmlStreamReader::EndElement) {
+            return false;
+        }
+    }
+    return false;
+}
+
+void SvdXmlReader::skipElement()
+{
+    const int outside = m_depth - 1;
+    while (!m_isOver && m_depth > outside) {
+        advance();
+    }
+}
+
+/// Where the next token begins.
+SvdPosition SvdXmlReader::position() const
+{
+    // Plain text is known to be over only when the reader has seen the '<' behind it.
+    const bool isPastNext = m_xml.tokenType() == QXmlStreamReader::Characters && !m_xml.isCDATA();
+    return {qint32(m_xml.lineNumber()), qint32(m_xml.columnNumber() + (isPastNext ? 0 : 1))};
+}
+
+void SvdXmlReader::findRoot()
+{
+    SvdPosition before{1, 1};
+    while (!m_isOver && advance() != QXmlStreamReader::StartElement) {
+        // Without a declaration the document begins, for the reader, with what comes first.
+        const bool isUndeclared = m_xml.isStartDocument() && m_xml.documentVersion().isEmpty();
+        before = isUndeclared ? before : position();
+    }
+    if (m_isOver) {
+        return;
+    }
+    // In front of the root white space is no token, so the root may begin later than the last token ended.
+    m_position = skipSpace(m_head, before);
+    if (svdTag(m_xml.name()) != SvdTag::Device) {
+        fail(m_position,
+             QStringLiteral("the root element is <%1>, and <device> was expected").arg(m_xml.name().toString()));
+    }
+}
+
+void SvdXmlReader::readToEnd()
+{
+    while (!m_isOver && !m_xml.atEnd()) {
+        advance();
+    }
+}
+
+void SvdXmlReader::tick()
+{
+    if (!m_meter.parsed(m_xml.characterOffset())) {
+        m_isOver = true;
+    }
+}
+
+void SvdXmlReader::fail(const SvdPosition& position, const QString& message)
+{
+    if (!m_isOver) {
+        m_isOver = true;
+        m_problem = {position, message};
+    }
+}
+
+void SvdXmlReader::failInXml()
+{
+    if (m_head.isEmpty()) {
+        fail({1, 1}, QStringLiteral("the file is empty, and a CMSIS-SVD description was expected"));
+        return;
+    }
+    QString reason = m_xml.errorString();
+    while (reason.endsWith(QLatin1Char('.'))) {
+        reason.chop(1);
+    }
+    const QString expected =
+        m_xml.error() == QXmlStreamReader::PrematureEndOfDocumentError
+            ? (m_depth > 0 ? QStringLiteral("the file breaks off, and the end of every open element was expected")
+                           : QStringLiteral("no complete <device> element was found, and one was expected"))
+            : QStringLiteral("well-formed XML was expected");
+    fail(position(), QStringLiteral("%1: %2").arg(reason, expected));
+}
+
+/// The present element's text is not what it ought to be.
+void SvdXmlReader::failOnText(const QString& expected)
+{
+    fail(m_position, QStringLiteral("<%1> is %2, and %3 was expected")
+                         .arg(m_xml.name().toString(), quoted(QStringView(m_text).trimmed()), expected));
+}
+
+void SvdXmlReader::requireName(const QString& name, const SvdPosition& position, const char* element)
+{
+    if (name.isEmpty()) {
+        fail(position,
+             QStringLiteral("this <%1> has no name, and a <name> was expected in it").arg(QLatin1String(element)));
+    }
+}
+
+/// The text of the present element, which is left behind. It is good until the next text is read.
+QStringView SvdXmlReader::readText()
+{
+    m_text.resize(0);
+    const int outside = m_depth - 1;
+    while (!m_isOver && m_depth > outside) {
+        // Tags within a text are passed over and what they enclose is kept.
+        const QXmlStreamReader::TokenType token = advance();
+        if (token == QXmlStreamReader::Characters || token == QXmlStreamReader::EntityReference) {
+            m_text.append(m_xml.text());
+        }
+    }
+    return m_text;
+}
+
+QString SvdXmlReader::readName()
+{
+    return m_strings.string(readText().trimmed());
+}
+
+QString SvdXmlReader::readDescription()
+{
+    return m_strings.simplified(readText());
+}
+
+QString SvdXmlReader::readReference()
+{
+    const QXmlStreamAttributes attributes = m_xml.attributes();
+    for (const QXmlStreamAttribute& attribute : attributes) {
+        if (attribute.name().compare(QLatin1String("derivedFrom"), Qt::CaseInsensitive) == 0) {
+            return attribute.value().trimmed().toString();
+        }
+    }
+    return QString();
+}
+
+std::optional<quint64> SvdXmlReader::readNumber()
+{
+    const std::optional<quint64> number = parseSvdNumber(readText());
+    if (!number) {
+        failOnText(numberExpected());
+    }
+    return number;
+}
+
+// An element that only keywords can fill and that is empty says nothing, as if it were not there.
+
+std::optional<Access> SvdXmlReader::readAccess()
+{
+    const QStringView text = readText();
+    if (text.trimmed().isEmpty()) {
+        return std::nullopt;
+    }
+    for (const AccessKeyword& keyword : kAccessKeywords) {
+        if (isKeyword(text, keyword.folded)) {
+            return keyword.access;
+        }
+    }
+    failOnText(QStringLiteral("read-only, write-only, read-write, writeOnce or read-writeOnce"));
+    return std::nullopt;
+}
+
+std::optional<RawUsage> SvdXmlReader::readUsage()
+{
+    const QStringView text = readText();
+    if (isKeyword(text, "read")) {
+        return RawUsage::Read;
+    }
+    if (isKeyword(text, "write")) {
+        return RawUsage::Write;
+    }
+    if (isKeyword(text, "readwrite")) {
+        return RawUsage::ReadWrite;
+    }
+    if (!text.trimmed().isEmpty()) {
+        failOnText(QStringLiteral("read, write or read-write"));
+    }
+    return std::nullopt;
+}
+
+bool SvdXmlReader::readBool()
+{
+    const QStringView text = readText();
+    const std::optional<bool> value = parseSvdBool(text);
+    if (!value && !text.trimmed().isEmpty()) {
+        failOnText(QStringLiteral("true, false, 1 or 0"));
+    }
+    return value.value_or(false);
+}
+
+/// Every kind of read action counts alike, and so does a word that the schema does not know: reading changes
+/// something.
+bool SvdXmlReader::readReadAction()
+{
+    const QStringView text = readText();
+    return !text.trimmed().isEmpty() && !isKeyword(text, "none");
+}
+
+qint32 SvdXmlReader::readBit(qint32 limit, const char* meaning)
+{
+    const std::optional<quint64> number = parseSvdNumber(readText());
+    if (!number || *number > quint64(limit)) {
+        failOnText(QStringLiteral("%1 from 0 to %2").arg(QLatin1String(meaning)).arg(limit));
+        return -1;
+    }
+    return qint32(*number);
+}
+
+void SvdXmlReader::readBitRange(RawBits* bits)
+{
+    QStringView text = readText().trimmed();
+    if (text.startsWith(QLatin1Char('[')) && text.endsWith(QLatin1Char(']'))) {
+        text = text.mid(1, text.size() - 2);
+    }
+    // Without brackets, and as one bit without a colon, it is met as well, and means one thing only.
+    const qsizetype colon = QString::fromRawData(text.data(), int(text.size())).indexOf(QLatin1Char(':'));
+    const std::optional<quint64> msb = parseSvdNumber(colon < 0 ? text : text.left(colon));
+    const std::optional<quint64> lsb = parseSvdNumber(colon < 0 ? text : text.mid(colon + 1));
+    if (msb && lsb && *lsb <= *msb && *lsb < quint64(kBitLimit) && *msb - *lsb < quint64(kBitLimit)) {
+        bits->msb = qint32(*msb);
+        bits->lsb = qint32(*lsb);
+        bits->lsbIsOffset = false;
+        return;
+    }
+    failOnText(QStringLiteral("[msb:lsb] with msb not below lsb, lsb below 64 and at most 64 bits"));
+}
+
+} // namespace registers
