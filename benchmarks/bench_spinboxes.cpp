@@ -139,7 +139,7 @@ void validation(benchmark::State& state)
     for (auto _ : state) {
         first = !first;
         QString sText = first ? sFirst : sSecond;
-        int nPos = sText.size();
+        int nPos = static_cast<int>(sText.size());
         benchmark::DoNotOptimize(box.validate(sText, nPos));
     }
 }

@@ -48,7 +48,7 @@ int main(int argc, char* argv[])
     if (app.arguments().contains(QStringLiteral("--once"))) {
         const bool isChanged = model.setData(model.index(0, 0), Qt::Unchecked, Qt::CheckStateRole);
         const bool isOff = !model.index(0, 0).data(Qt::EditRole).toBool();
-        QTimer::singleShot(0, &app, [&] { QCoreApplication::exit(isChanged && isOff ? 0 : 1); });
+        QTimer::singleShot(0, &app, [isChanged, isOff] { QCoreApplication::exit(isChanged && isOff ? 0 : 1); });
     }
     return QApplication::exec();
 }

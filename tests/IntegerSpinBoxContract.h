@@ -150,6 +150,7 @@ private Q_SLOTS:
     virtual void aPrefixThatIsTypedOverComesBackBeforeTheCursor_data() = 0;
     virtual void aPrefixThatIsTypedOverComesBackBeforeTheCursor() = 0;
     virtual void aPrefixThatIsDeletedComesBackBeforeTheCursor() = 0;
+    virtual void aPrefixThatIsNotPutThereMovesNoCursor() = 0;
     virtual void aDigitTypedBesideASuffixIsRefused() = 0;
     virtual void aRefusedKeyLeavesTextCursorAndSelectionAlone_data() = 0;
     virtual void aRefusedKeyLeavesTextCursorAndSelectionAlone() = 0;
@@ -2015,6 +2016,24 @@ private:
         QCOMPARE(heard.take(), QStringList());
     }
 
+    //! Of a text that was judged before there was a prefix, the judgement stands.
+    void aPrefixThatIsNotPutThereMovesNoCursor() override
+    {
+        Box box;
+        box.setMinimum(0);
+        box.setSpecialValueText("auto"_s);
+        box.setPrefix("no. "_s);
+        QLineEdit& edit = lineEditOf(box);
+        QTest::keySequence(&edit, QKeySequence::SelectAll);
+        QTest::keyClicks(&edit, "0"_s);
+        QCOMPARE(edit.cursorPosition(), static_cast<int>(edit.text().size()));
+        QVERIFY(!edit.text().contains("  "_s));
+        QTest::keyClicks(&edit, "5"_s);
+        QCOMPARE(edit.text(), "no. 5"_s);
+        QCOMPARE(edit.cursorPosition(), 5);
+        QCOMPARE(box.value(), T(5));
+    }
+
     void aDigitTypedBesideASuffixIsRefused() override
     {
         Box box;
@@ -2046,6 +2065,7 @@ private:
         row("behind a suffix", metric, 4, 0, type("7"));
         row("within a suffix", metric, 3, 0, type("7"));
         row("the number of a suffix typed over", metric, 1, -1, type("7"));
+        row("behind a suffix that ends in a space", Dressed{10, "", " m ", "", 5}, 4, 0, type("7"));
         row("number and space of a suffix typed over", metric, 0, 2, type("7"));
         row("a suffix typed over up to its space", metric, 2, 2, type("7"));
         row("a wrong character over it all", metric, 0, 4, type("x"));

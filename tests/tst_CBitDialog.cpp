@@ -149,6 +149,7 @@ private Q_SLOTS:
     // By keys
     void theTabKeyWalksTextsGridAndButtons();
     void theArrowKeysWalkTheGrid();
+    void enterInTheGridIsForOk();
 
     // The static call
     void theStaticCallAnswersWhatWasDone_data();
@@ -830,6 +831,21 @@ void tst_CBitDialog::theArrowKeysWalkTheGrid()
     QCOMPARE(walk(Qt::Key_Left), QPoint(1, 0));
     QCOMPARE(walk(Qt::Key_Up), QPoint(0, 0));
     QVERIFY(m_p->pView->hasFocus());
+}
+
+void tst_CBitDialog::enterInTheGridIsForOk()
+{
+    show(QByteArray("\x12\xAB"));
+    m_p->pView->setFocus();
+    m_p->pView->setCurrentIndex(m_p->pModel->index(1, 1)); // a bit's value
+    const QByteArray before = m_pDialog->byteArray();
+    QTest::keyClick(m_p->pView, Qt::Key_Space);
+    const QByteArray turned = m_pDialog->byteArray();
+    QVERIFY(turned != before);
+    QTest::keyClick(m_p->pView, Qt::Key_Return);
+    QCOMPARE(m_pDialog->byteArray(), turned);
+    QCOMPARE(m_pDialog->result(), int(QDialog::Accepted));
+    QVERIFY(!m_pDialog->isVisible());
 }
 
 // The static call

@@ -411,6 +411,9 @@ void tst_ChangingCells::aPersistentEditorStaysAndIsNotRead()
     Q_EMIT m_pView->itemDelegate()->commitData(pEditor);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCOMPARE(m_pTable->takeWrites(), QStringList());
+    auto* const pTable = qobject_cast<QTableView*>(m_pView.data());
+    pTable->setColumnWidth(0, pTable->columnWidth(0) + 40); // the cell moves, and its editor with it
+    QTRY_COMPARE(pEditor->geometry(), m_pView->visualRect(m_pTable->at(1, 1)));
     m_pTable->change(1, 1, 263, 16);
     QVERIFY(pEditor);
     Q_EMIT m_pView->itemDelegate()->commitData(pEditor);

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void whatIsTypedIsWritten();
     void whatIsStepped_data();
     void whatIsStepped();
+    void whatIsTypedIsReadByABoxThatReadsLate();
     void aPasteOfWhatIsShownIsAChange();
     void aValueThatIsSetIsWritten();
     void aBoxThatWasNeverFilledIsRead();
@@ -283,6 +284,18 @@ void tst_DoubleCells::whatIsTypedIsWritten()
     QTest::keyClick(m_pBox, Qt::Key_Return);
     QTRY_VERIFY(!m_pBox);
     QVERIFY(sameBits(value(), expected));
+}
+
+void tst_DoubleCells::whatIsTypedIsReadByABoxThatReadsLate()
+{
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Return}) {
+        QVERIFY(opened({{Qt::EditRole, c_fFine}}));
+        m_pBox->setKeyboardTracking(false);
+        QTest::keyClicks(m_pBox, QStringLiteral("7"));
+        QTest::keyClick(m_pBox, key);
+        QTRY_VERIFY(!m_pBox);
+        QVERIFY(sameBits(value(), 7.0));
+    }
 }
 
 void tst_DoubleCells::whatIsStepped_data()

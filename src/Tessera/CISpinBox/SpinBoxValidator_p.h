@@ -42,7 +42,7 @@ public:
             return Acceptable;
         }
         const QString sPrefix = m_box.prefix();
-        if (!sGiven.startsWith(sPrefix))
+        if (!sGiven.startsWith(sPrefix) && sInput.startsWith(sPrefix))
             nPos += static_cast<int>(sPrefix.size());
         return state;
     }

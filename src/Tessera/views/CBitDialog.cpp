@@ -187,6 +187,8 @@ void CBitDialog::initUI()
     m_pData->pView->verticalHeader()->hide();
     m_pData->pView->setModel(m_pData->pModel);
     m_pData->pView->setTabKeyNavigation(false); // the arrows walk it
+    // Enter is the dialog's; Space, F2 and a click turn a bit over.
+    m_pData->pView->setEditTriggers(m_pData->pView->editTriggers() & ~QAbstractItemView::EditKeyPressed);
     m_pData->pView->horizontalHeader()->setStretchLastSection(true);
     keepTextReadable(m_pData->pView);
 

@@ -19,7 +19,8 @@ namespace nsUI {
 
 /*!
     Edits a byte array three ways at once: as hexadecimal text, as binary text, and bit by bit in a grid where each bit
-    can have a description. An edit in one shows in the other two at once. Reset returns to the array last given.
+    can have a description. An edit in one shows in the other two at once. Reset returns to the array last given. A
+    click, Space or F2 turns a bit of the grid over; Enter is for OK everywhere.
 
     Positions count from 0 at the least significant bit of the last byte. A text counts once all its digits are there;
     until then nothing follows it.

@@ -107,8 +107,9 @@ std::optional<QVariant> takeDouble(const QWidget* pEditor, const QModelIndex& in
     const auto* const pBox = qobject_cast<const CDSpinBox*>(pEditor);
     if (pBox == nullptr)
         return std::nullopt;
-    const auto* const pSession = DoubleSession::find(pBox);
-    return QVariant(pSession != nullptr ? pSession->taken(index) : pBox->value());
+    DoubleSession* const pSession = DoubleSession::find(pBox);
+    const std::optional<double> val = pSession != nullptr ? pSession->taken(index) : pBox->value();
+    return val ? std::optional<QVariant>(*val) : std::nullopt;
 }
 
 } // namespace nsUI

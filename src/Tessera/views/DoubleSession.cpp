@@ -40,7 +40,7 @@ DoubleSession& DoubleSession::of(CDSpinBox* pBox)
     return pSession != nullptr ? *pSession : *new DoubleSession(pBox);
 }
 
-const DoubleSession* DoubleSession::find(const CDSpinBox* pBox)
+DoubleSession* DoubleSession::find(const CDSpinBox* pBox)
 {
     return pBox->findChild<DoubleSession*>(QString(), Qt::FindDirectChildrenOnly);
 }
@@ -72,9 +72,15 @@ void DoubleSession::touch(double val)
         m_isTouched = true;
 }
 
-double DoubleSession::taken(const QModelIndex& index) const
+std::optional<double> DoubleSession::taken(const QModelIndex& index)
 {
-    const double val = m_pBox->value(); // first: it brings in what a box without keyboard tracking has not sent yet
+    if (m_isTouched && !m_pBox->keyboardTracking()) { // such a box has not read yet what was typed
+        const QPointer<DoubleSession> pSelf(this);
+        m_pBox->interpretText();
+        if (!pSelf) // a slot has deleted the box
+            return std::nullopt;
+    }
+    const double val = m_pBox->value();
     return m_isTouched || m_cell != index || val != m_fShown ? val : m_fFilled;
 }
 

@@ -5,6 +5,8 @@
 #include <QPersistentModelIndex>
 #include <QVector>
 
+#include <optional>
+
 QT_FORWARD_DECLARE_CLASS(QAbstractItemModel)
 
 namespace nsUI {
@@ -23,13 +25,14 @@ class DoubleSession : public QObject
 public:
     //! The session of \a pBox, begun when there is none.
     static DoubleSession& of(CDSpinBox* pBox);
-    static const DoubleSession* find(const CDSpinBox* pBox); //!< null when there is none
+    static DoubleSession* find(const CDSpinBox* pBox); //!< null when there is none
 
     //! Shows the value of the cell, unless this box has written it.
     void fill(const QModelIndex& index);
 
-    //! What the cell at \a index is to hold: the value that it was filled from, or the user's.
-    double taken(const QModelIndex& index) const;
+    //! What the cell at \a index is to hold: the value that it was filled from, or the user's. Nothing if a slot of the
+    //! box has deleted it.
+    std::optional<double> taken(const QModelIndex& index);
 
     //! Writes a value of the user's at once. The box, the model or both may be gone after it.
     void write(QAbstractItemModel* pModel, const QPersistentModelIndex& cell, double val);

@@ -47,6 +47,12 @@ bool hasList(const QModelIndex& cell)
     return nKind == e_Item_ComboBox || nKind == e_Item_DataComboBox;
 }
 
+//! A view that gives its Enter to a dialog's default button says so by its edit triggers.
+bool isDialogs(const QAbstractItemView& view, const QKeyEvent& event)
+{
+    return isEnter(event) && !view.editTriggers().testFlag(QAbstractItemView::EditKeyPressed);
+}
+
 void actOnCell(const ItemKeyView& view, const QModelIndex& cell, QKeyEvent* event)
 {
     event->accept();
@@ -80,7 +86,7 @@ void actOnKey(const ItemKeyView& view, QKeyEvent* event)
 {
     const QPersistentModelIndex cell = view.pView->currentIndex();
     if (!isActionKey(*event) || view.isEditing || comesFromWidgetInside(*view.pView) ||
-        !cell.flags().testFlag(Qt::ItemIsEnabled)) {
+        !cell.flags().testFlag(Qt::ItemIsEnabled) || isDialogs(*view.pView, *event)) {
         view.press(event);
         return;
     }

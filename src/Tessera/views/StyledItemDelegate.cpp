@@ -7,6 +7,7 @@
 #include <QAbstractItemModel>
 #include <QAbstractSpinBox>
 #include <QMetaProperty>
+#include <QPersistentModelIndex>
 #include <QPointer>
 
 namespace nsUI {
@@ -83,10 +84,12 @@ void StyledItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model
         close(this, editor);
         return;
     }
+    const QPointer<QWidget> pEditor(editor); // a box may read first what was typed, and tell of it
+    const QPersistentModelIndex cell(index);
     const auto tValue = kind.take != nullptr ? kind.take(editor, index) : std::nullopt;
     if (tValue)
-        model->setData(index, *tValue, Qt::EditRole);
-    else if (hasValueForQtsDelegate(editor))
+        model->setData(cell, *tValue, Qt::EditRole);
+    else if (pEditor && hasValueForQtsDelegate(editor))
         QStyledItemDelegate::setModelData(editor, model, index);
 }
 
@@ -94,12 +97,14 @@ void StyledItemDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptio
                                               const QModelIndex& index) const
 {
     const CellKind& kind = CellKind::of(index);
-    if (EditorOrigin::isOutdated(editor, index, kind))
+    if (EditorOrigin::isOutdated(editor, index, kind)) {
         closeLater(this, editor);
-    else if (kind.place == nullptr)
+        editor->setGeometry(option.rect); // a persistent editor stays
+    } else if (kind.place == nullptr) {
         QStyledItemDelegate::updateEditorGeometry(editor, option, index);
-    else if (editor != nullptr)
+    } else if (editor != nullptr) {
         kind.place(editor, option.rect);
+    }
 }
 
 } // namespace nsUI

@@ -16,8 +16,8 @@ namespace nsUI {
     Space, F2 and Enter, pressed without a modifier, do the same on the current cell, and check an e_Item_CheckBox. On an
     editable cell F2 and Enter open its editor, and Space opens the list of an e_Item_ComboBox or e_Item_DataComboBox;
     in other editors it is typed. activated() comes before anything that Enter does. An Enter that has done something
-    goes no further; where one shall reach a dialog's default button, take EditKeyPressed out of the edit triggers. A key
-    that is held acts once. Everything else about keys is as in Qt's view; Ctrl+Space selects.
+    goes no further; where one shall reach a dialog's default button, take EditKeyPressed out of the edit triggers, and
+    Enter does nothing here. A key that is held acts once. Everything else about keys is as in Qt's view; Ctrl+Space selects.
 
     Every edit trigger is on, so a click on a selected editable cell opens its editor. The host installs the delegate,
     usually a StyledItemDelegate.

@@ -29,6 +29,16 @@ QSize globalStrut()
 #endif
 }
 
+QString formats()
+{
+    return QStringLiteral("eEfgG");
+}
+
+QString numberText(double val, QChar cFmt, int nDecimals)
+{
+    return QString::number(val, cFmt.toLatin1(), nDecimals);
+}
+
 } // namespace
 
 /*!
@@ -53,7 +63,7 @@ public:
         const State state = m_inner.validate(input, pos);
         if (state != Invalid && !isInfinite(sGiven))
             return state;
-        if (sGiven != m_box.ownText())
+        if (sGiven != m_box.ownText(m_box.m_cFmt))
             return Invalid;
         input = sGiven;
         pos = nGiven;
@@ -62,7 +72,7 @@ public:
 
     void fixup(QString& input) const override
     {
-        if (input != m_box.ownText())
+        if (input != m_box.ownText(m_box.m_cFmt))
             m_inner.fixup(input);
     }
 
@@ -81,7 +91,6 @@ CDSpinBox::CDSpinBox(QWidget* parent)
     : QDoubleSpinBox(parent)
 {
     setValidator();
-    connect(lineEdit(), &QLineEdit::textChanged, this, &CDSpinBox::forgetEarlierText);
 }
 
 QChar CDSpinBox::fmtChar() const
@@ -91,10 +100,8 @@ QChar CDSpinBox::fmtChar() const
 
 void CDSpinBox::setFmtChar(const QChar& ch)
 {
-    if (!QStringLiteral("eEfgG").contains(ch) || ch == m_cFmt)
+    if (!formats().contains(ch) || ch == m_cFmt)
         return;
-    if (text() == ownText())
-        m_sEarlierText = text();
     m_cFmt = ch;
     update();
 }
@@ -169,7 +176,7 @@ double CDSpinBox::valueFromText(const QString& text) const
 
 QString CDSpinBox::textFromValue(double val) const
 {
-    return QString::number(val, m_cFmt.toLatin1(), decimals());
+    return numberText(val, m_cFmt, decimals());
 }
 
 void CDSpinBox::setLineEdit(QLineEdit* pEdit)
@@ -180,8 +187,6 @@ void CDSpinBox::setLineEdit(QLineEdit* pEdit)
     QDoubleSpinBox::setLineEdit(pEdit);
     if (!bringsValidator)
         setValidator();
-    connect(pEdit, &QLineEdit::textChanged, this, &CDSpinBox::forgetEarlierText);
-    forgetEarlierText();
 }
 
 //! Puts this class's validator before Qt's own.
@@ -190,25 +195,24 @@ void CDSpinBox::setValidator()
     lineEdit()->setValidator(new Validator(*this, *lineEdit()->validator(), lineEdit()));
 }
 
-void CDSpinBox::forgetEarlierText()
-{
-    m_sEarlierText.clear();
-}
-
-//! What the box writes when it writes its value.
-QString CDSpinBox::ownText() const
+//! What the box writes when it writes its value in this format.
+QString CDSpinBox::ownText(QChar cFmt) const
 {
     const QString sSpecial = specialValueText();
-    return value() == minimum() && !sSpecial.isEmpty() ? sSpecial : prefix() + textFromValue(value()) + suffix();
+    if (value() == minimum() && !sSpecial.isEmpty())
+        return sSpecial;
+    return prefix() + (cFmt == m_cFmt ? textFromValue(value()) : numberText(value(), cFmt, decimals())) + suffix();
 }
 
-//! True while the text on show is as the box wrote it, and no edit of it waits to be read.
+//! True while the text on show is as the box wrote it, in this format or in an earlier one, and no edit of it waits to be
+//! read.
 bool CDSpinBox::isUntouched() const
 {
     const QLineEdit* const pEdit = lineEdit();
     const bool isWaiting = !keyboardTracking() && (pEdit->isUndoAvailable() || pEdit->isRedoAvailable());
-    const QString sText = text();
-    return !isWaiting && ((!m_sEarlierText.isNull() && sText == m_sEarlierText) || sText == ownText());
+    const QString sFormats = formats();
+    return !isWaiting &&
+           std::any_of(sFormats.cbegin(), sFormats.cend(), [this](QChar cFmt) { return text() == ownText(cFmt); });
 }
 
 //! True when the text on show reads as the value that it shows.
@@ -234,7 +238,6 @@ void CDSpinBox::keyPressEvent(QKeyEvent* event)
 void CDSpinBox::enterUntouched()
 {
     const QPointer<CDSpinBox> pBox(this);
-    forgetEarlierText();
     setSingleStep(singleStep()); // nothing but a new writing of the text
     if (keyboardTracking())
         tellValue();

@@ -90,15 +90,13 @@ private:
 
     QSize fittingSize(const QSize& tBase) const;
     void setValidator();
-    void forgetEarlierText();
-    QString ownText() const;
+    QString ownText(QChar cFmt) const;
     bool isUntouched() const;
     bool readsBack() const;
     void enterUntouched();
     void tellValue();
 
     QChar m_cFmt = QLatin1Char('f');
-    QString m_sEarlierText; //!< what was shown when the format changed, unless it was edited since
 };
 
 } // namespace nsUI
