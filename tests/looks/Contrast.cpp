@@ -5,20 +5,34 @@
 #include <QImage>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace looks {
 
 namespace {
 
-double linear(double part)
+using Parts = std::array<double, 256>;
+
+Parts linearParts()
 {
-    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    Parts parts{};
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const double part = static_cast<double>(i) / 255.0;
+        parts[i] = part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    }
+    return parts;
+}
+
+double linear(int part)
+{
+    static const Parts parts = linearParts();
+    return parts[static_cast<std::size_t>(part)];
 }
 
 double luminance(const QColor& color)
 {
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) + 0.0722 * linear(color.blue());
 }
 
 } // namespace

@@ -192,11 +192,10 @@ Difference differenceOf(const QImage& kept, const QImage& present)
         }
     }
     const int patch = largestPatch(difference.blocks);
-    if (difference.reason.isEmpty() && (patch > kLargestPatch || difference.blocks.size() > count * kDifferingShare)) {
-        difference.reason = QStringLiteral("%1 of %2 blocks differ, %3 of them in one patch")
-                                .arg(difference.blocks.size())
-                                .arg(count)
-                                .arg(patch);
+    const int differing = static_cast<int>(difference.blocks.size());
+    if (difference.reason.isEmpty() && (patch > kLargestPatch || differing > count * kDifferingShare)) {
+        difference.reason =
+            QStringLiteral("%1 of %2 blocks differ, %3 of them in one patch").arg(differing).arg(count).arg(patch);
     }
     return difference;
 }
