@@ -139,16 +139,23 @@ QStringList faintTexts(QWidget* window)
     return found;
 }
 
-QStringList findings(QWidget* window, const QVector<Exemption>& exemptions)
+QStringList findings(QWidget* window, QVector<Exemption>* exemptions)
 {
-    QStringList all = clippedTexts(window) + overlappingWidgets(window) + faintTexts(window);
-    const auto isExempt = [&exemptions](const QString& finding) {
-        return std::any_of(exemptions.cbegin(), exemptions.cend(), [&finding](const Exemption& exemption) {
+    QStringList left = clippedTexts(window) + overlappingWidgets(window) + faintTexts(window);
+    const auto isExempt = [exemptions](const QString& finding) {
+        const auto it = std::find_if(exemptions->begin(), exemptions->end(), [&finding](const Exemption& exemption) {
             return exemption.finding.match(finding).hasMatch();
         });
+        if (it == exemptions->end()) {
+            return false;
+        }
+        ++it->uses;
+        return true;
     };
-    all.erase(std::remove_if(all.begin(), all.end(), isExempt), all.end());
-    return all;
+    if (exemptions) {
+        left.erase(std::remove_if(left.begin(), left.end(), isExempt), left.end());
+    }
+    return left;
 }
 
 } // namespace looks

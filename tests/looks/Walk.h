@@ -18,6 +18,7 @@ struct Exemption
 {
     QRegularExpression finding;
     const char* reason;
+    int uses = 0; ///< so far
 };
 
 /// All visible widgets of a window, itself first; other windows not.
@@ -37,6 +38,6 @@ QStringList overlappingWidgets(QWidget* window);
 QStringList faintTexts(QWidget* window);
 
 /// All of the above, without those that are exempt.
-QStringList findings(QWidget* window, const QVector<Exemption>& exemptions = {});
+QStringList findings(QWidget* window, QVector<Exemption>* exemptions = nullptr);
 
 } // namespace looks

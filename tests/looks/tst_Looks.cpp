@@ -291,8 +291,11 @@ void tst_Looks::anExemptionTakesAwayItsFindingOnly()
     addLabel("other", 50);
     const auto window = windowWith(frame, kRoom);
     QCOMPARE(findings(window.get()).size(), 2);
-    const Exemption exemption{QRegularExpression(QStringLiteral("^clipped: .*/one: ")), "for the test"};
-    const QStringList left = findings(window.get(), {exemption});
+    QVector<Exemption> exemptions{{QRegularExpression(QStringLiteral("^clipped: .*/one: ")), "for the test"},
+                                  {QRegularExpression(QStringLiteral("^clipped: .*/none: ")), "for the test"}};
+    const QStringList left = findings(window.get(), &exemptions);
+    QCOMPARE(exemptions.at(0).uses, 1);
+    QCOMPARE(exemptions.at(1).uses, 0);
     QCOMPARE(left.size(), 1);
     QVERIFY2(left.first().contains(QLatin1String("/other: ")), qPrintable(left.first()));
 }
