@@ -103,6 +103,7 @@ QWidget* makeRandomColors()
     QVector<QLabel*> fields;
     for (int i = 0; i < kRandomColors; ++i) {
         fields.append(newField());
+        fields.last()->setObjectName(QStringLiteral("randomColor"));
         grid->addWidget(fields.last(), i / 3, i % 3);
     }
     //! [random]

@@ -13,7 +13,7 @@ namespace registers {
 
 namespace {
 
-constexpr double kCaptionShare = 0.68;
+constexpr double kCaptionShare = 0.72;
 constexpr double kDarkCardShare = 0.06;
 
 /// The desktop's fixed-pitch font, if it has one; else the library's font for numbers or another of the kind.
@@ -37,6 +37,8 @@ QColor accentColor(const QPalette& palette, Accent accent)
         return library.getColor(nsUI::e_Info, dark ? nsUI::e_L300 : nsUI::e_L500);
     case Accent::Caution:
         return library.getColor(nsUI::e_Warning, dark ? nsUI::e_L300 : nsUI::e_L700);
+    case Accent::Current:
+        return library.getColor(nsUI::e_Success, dark ? nsUI::e_L300 : nsUI::e_L700);
     case Accent::Plain:
         break;
     }

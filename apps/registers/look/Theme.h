@@ -12,7 +12,7 @@ QT_END_NAMESPACE
 namespace registers {
 
 /// What a colour is to tell. It never tells it alone: a word or a shape stands beside it.
-enum class Accent { Changed, Caution, Plain };
+enum class Accent { Changed, Caution, Current, Plain };
 
 /// A colour of the library's palette that reads well on the ground of @p palette.
 QColor accentColor(const QPalette& palette, Accent accent);

@@ -3,12 +3,12 @@
 
 #include "device/DeviceState.h"
 #include "editors/ValueDelegate.h"
-#include "look/Icons.h"
 #include "look/Theme.h"
 #include "session/DeviceEdits.h"
 #include "text/Numbers.h"
 #include "tree/ColumnWidths.h"
 #include "tree/DeviceFilterModel.h"
+#include "tree/FilterEdit.h"
 #include "tree/OpenEditor.h"
 #include "tree/RowText.h"
 
@@ -42,7 +42,7 @@ constexpr int kMarkSide = 16;
 
 DevicePanel::DevicePanel(QWidget* parent)
     : QWidget(parent)
-    , m_filterEdit(new QLineEdit(this))
+    , m_filterEdit(new FilterEdit(this))
     , m_view(new nsUI::TrView(this))
     , m_noHits(new QLabel(m_view))
     , m_filter(std::make_unique<DeviceFilterModel>())
@@ -63,12 +63,6 @@ DevicePanel::~DevicePanel()
 
 void DevicePanel::initFilter()
 {
-    m_filterEdit->setPlaceholderText(tr("Filter by name or 0x address"));
-    m_filterEdit->setToolTip(tr("Shows what has every word in its path, such as “uart ctrl”, or an address "
-                                "such as “0x4000”"));
-    m_filterEdit->setAcceptDrops(false); // a dropped file is for the window
-    m_filterEdit->setClearButtonEnabled(true);
-    m_filterEdit->addAction(lineIcon(LineIcon::Search), QLineEdit::LeadingPosition);
     m_filterEdit->installEventFilter(this);
     m_filterDelay.setSingleShot(true);
     m_filterDelay.setInterval(kFilterDelayMs);

@@ -14,6 +14,12 @@ public:
     enum Step { Open, Edit, Review, Save };
 
     explicit WorkSteps(QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void updateRules();
 };
 
 } // namespace registers
