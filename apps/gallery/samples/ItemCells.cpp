@@ -193,7 +193,7 @@ QVariant cellData(const ItemCell& cell, int role)
         return integerText(cell);
     }
     if (cell.value.userType() == QMetaType::QFont) {
-        const QVariant answer = fontData(cell.value.value<QFont>(), role);
+        QVariant answer = fontData(cell.value.value<QFont>(), role);
         if (answer.isValid()) {
             return answer;
         }

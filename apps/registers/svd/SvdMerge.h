@@ -26,7 +26,7 @@ RawRange mergedByName(std::vector<qint32>* ids, RawRange own, RawRange base, Nam
         waiting[nameOf(id)].append(id);
     }
     std::vector<qint32> merged;
-    merged.reserve(size_t(own.count + base.count));
+    merged.reserve(size_t(own.count) + size_t(base.count));
     for (qint32 i = base.first; i < base.end(); ++i) {
         const qint32 id = (*ids)[size_t(i)];
         const auto replacement = waiting.find(nameOf(id));

@@ -165,7 +165,7 @@ Reading fitted(const QString& sText, const Range& range, const Field& field)
 //! The letters of Unicode that look like digits, or like nothing at all, are told by their number.
 QString named(const QString& sText, const Reading& reading)
 {
-    const QString sPart = sText.mid(reading.nAt, reading.nLength);
+    QString sPart = sText.mid(reading.nAt, reading.nLength);
     const uint nCode = sPart.size() == 2 ? QChar::surrogateToUcs4(sPart.at(0), sPart.at(1)) : sPart.at(0).unicode();
     if (nCode >= 0x20 && nCode < 0x7F)
         return sPart;

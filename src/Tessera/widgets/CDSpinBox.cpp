@@ -198,7 +198,7 @@ void CDSpinBox::setValidator()
 //! What the box writes when it writes its value in this format.
 QString CDSpinBox::ownText(QChar cFmt) const
 {
-    const QString sSpecial = specialValueText();
+    QString sSpecial = specialValueText();
     if (value() == minimum() && !sSpecial.isEmpty())
         return sSpecial;
     return prefix() + (cFmt == m_cFmt ? textFromValue(value()) : numberText(value(), cFmt, decimals())) + suffix();
