@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
+
 #include <Tessera/views/CBitDialog.h>
 
 #include <QApplication>
@@ -1166,5 +1168,5 @@ void tst_CDigitsEdit::largePastesAreTakenBackAtOnce()
     }
 }
 
-QTEST_MAIN(tst_CDigitsEdit)
+TESSERA_TEST_MAIN(tst_CDigitsEdit)
 #include "tst_CDigitsEdit.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CellModels.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CU16SpinBox.h>
 #include <Tessera/views/StyledItemDelegate.h>
@@ -481,5 +482,5 @@ void tst_ChangingCells::theDelegateSaysWhichEditorCloses()
     QCOMPARE(m_pTable->takeWrites(), QStringList());
 }
 
-QTEST_MAIN(tst_ChangingCells)
+TESSERA_TEST_MAIN(tst_ChangingCells)
 #include "tst_ChangingCells.moc"

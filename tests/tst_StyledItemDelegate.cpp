@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CellModels.h"
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <Tessera/CISpinBox/CI16SpinBox.h>
@@ -1778,5 +1779,5 @@ void tst_StyledItemDelegate::typingIntoACellEndToEnd()
     QCOMPARE(m_pTable->at(1, 1).data().toInt(), 0xBEEF);
 }
 
-QTEST_MAIN(tst_StyledItemDelegate)
+TESSERA_TEST_MAIN(tst_StyledItemDelegate)
 #include "tst_StyledItemDelegate.moc"

@@ -14,7 +14,8 @@
 #include "pages/Pages.h"
 #include "samples/CellTable.h"
 #include "samples/CellTree.h"
-#include "TestSupport.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 
 #include <Tessera/Tessera.h>
 #include <Tessera/views/ItemRoles.h>
@@ -48,6 +49,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <optional>
 
 using namespace gallery;
 
@@ -253,16 +255,14 @@ private Q_SLOTS:
     void theProgramTellsAboutItself();
 
 private:
-    std::unique_ptr<TestSupport::SettingsGuard> m_settings;
-    std::unique_ptr<TestSupport::MessageRecorder> m_log;
+    std::optional<TestSupport::GlobalState> m_global;
     std::unique_ptr<Host> m_host;
     QTemporaryDir m_folder;
 };
 
 void tst_Gallery::initTestCase()
 {
-    m_log = std::make_unique<TestSupport::MessageRecorder>();
-    m_settings = std::make_unique<TestSupport::SettingsGuard>();
+    m_global.emplace();
     QCoreApplication::setApplicationName(QStringLiteral("tessera-gallery"));
     QCoreApplication::setApplicationVersion(QStringLiteral("9.8.7"));
     m_host = std::make_unique<Host>(Look());
@@ -275,14 +275,12 @@ void tst_Gallery::init()
     m_host->setShade(usual.shade);
     m_host->setSheet(usual.sheet);
     m_host->setDirection(usual.direction);
-    m_log->take();
 }
 
 void tst_Gallery::cleanupTestCase()
 {
     m_host.reset();
-    m_settings.reset();
-    m_log.reset();
+    m_global.reset();
 }
 
 void tst_Gallery::nothingOpensTheFirstPage()
@@ -401,7 +399,6 @@ void tst_Gallery::aPageBuildsWhole()
     QFETCH(QString, page);
     QFETCH(bool, inChinese);
     m_host->setLanguage(inChinese ? Language::Chinese : Language::English);
-    m_log->take();
     const auto window = shownWindow(page);
     QVERIFY(window->currentPage());
     const QVector<Card*>& cards = window->currentPage()->cards();
@@ -412,7 +409,6 @@ void tst_Gallery::aPageBuildsWhole()
         QVERIFY2(!QTextDocumentFragment::fromHtml(code->text()).toPlainText().trimmed().isEmpty(),
                  qPrintable(card->title()));
     }
-    QCOMPARE(m_log->take(), QStringList());
 }
 
 void tst_Gallery::everyTextIsTranslated_data()
@@ -911,6 +907,6 @@ void tst_Gallery::theProgramTellsAboutItself()
     QVERIFY(version.output().startsWith(QStringLiteral("tessera-gallery ")));
 }
 
-QTEST_MAIN(tst_Gallery)
+TESSERA_TEST_MAIN(tst_Gallery)
 
 #include "tst_gallery.moc"
