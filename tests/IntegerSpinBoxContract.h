@@ -38,9 +38,6 @@ class IntegerSpinBoxContract : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    virtual void init() = 0;
-    virtual void cleanup() = 0;
-
     // A new box
     virtual void aNewBoxShowsZeroInTheRangeZeroToNinetyNine() = 0;
     virtual void aNewBoxBelongsToItsParent() = 0;
