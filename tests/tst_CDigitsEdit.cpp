@@ -735,7 +735,8 @@ void tst_CDigitsEdit::theMiddleButtonPastesWhatIsSelected()
     QClipboard* const clipboard = QGuiApplication::clipboard();
     const auto click = [&](const char* selected) {
         m_pHex->setSelection(3, 4);
-        clipboard->setText(text(selected), QClipboard::Selection);
+        if (clipboard->supportsSelection())
+            clipboard->setText(text(selected), QClipboard::Selection);
         QTest::mouseClick(m_pHex, Qt::MiddleButton, Qt::NoModifier, pointBefore(m_pHex, 0));
     };
     click("0xAB");

@@ -23,6 +23,8 @@ using CellModels::CellTable;
 using CellModels::CellTree;
 using nsUI::StyledItemDelegate;
 
+Q_DECLARE_METATYPE(QAbstractItemDelegate::EndEditHint)
+
 namespace {
 
 //! A usable cell of each kind. One value for all of them, so that nothing but the kind changes.
@@ -44,6 +46,7 @@ class tst_ChangingCells : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qRegisterMetaType<QAbstractItemDelegate::EndEditHint>(); } // a signal spy wants to know it
     void init();
     void cleanup();
 

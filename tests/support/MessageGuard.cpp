@@ -66,6 +66,14 @@ void expectMessage(QtMsgType level, const QRegularExpression& pattern)
     g_guard->m_expected.append({currentFunction(), level, pattern});
 }
 
+void allowMessages(QtMsgType level, const QRegularExpression& pattern)
+{
+    if (!g_guard)
+        return;
+    const QMutexLocker locker(&g_guard->m_mutex);
+    g_guard->m_allowed.append({level, pattern});
+}
+
 MessageGuard::MessageGuard()
     : m_thread(QThread::currentThreadId())
 {
@@ -100,6 +108,14 @@ int MessageGuard::exitCode(int result) const
     return result == 0 && !m_untold.isEmpty() ? 1 : result;
 }
 
+bool MessageGuard::isAllowed(QtMsgType level, const QString& text) const
+{
+    const QMutexLocker locker(&m_mutex);
+    return std::any_of(m_allowed.begin(), m_allowed.end(), [&](const Allowed& allowed) {
+        return allowed.level == level && allowed.pattern.match(text).hasMatch();
+    });
+}
+
 bool MessageGuard::takeExpected(QtMsgType level, const QString& text)
 {
     const QString function = currentFunction();
@@ -132,7 +148,7 @@ void MessageGuard::complain(QtMsgType level, const QMessageLogContext& context, 
 void MessageGuard::handle(QtMsgType level, const QMessageLogContext& context, const QString& text)
 {
     MessageGuard& guard = *g_guard;
-    if (isPlatformNoise(level, text) || isCreation(level, text))
+    if (isPlatformNoise(level, text) || isCreation(level, text) || guard.isAllowed(level, text))
         return;
     const bool isExpected = guard.takeExpected(level, text);
     if (guard.m_behind)

@@ -22,9 +22,15 @@ void expectMessage(QtMsgType level, const QString& text);
 void expectMessage(QtMsgType level, const QRegularExpression& pattern);
 
 /*!
+    From here on to the end of the program, messages of this level and pattern may come any number of times, or not at all:
+    for a test of an application that tells of its work, whose log is not what most of its functions are about.
+*/
+void allowMessages(QtMsgType level, const QRegularExpression& pattern);
+
+/*!
     Fails the run on every message that nobody expects: the test function in which it comes, or the program, where no
     function runs or another thread speaks. A message is expected when a MessageRecorder takes it, when expectMessage()
-    announced it, or when any test may cause it: the platform's noise, and the debug messages by which the library's global
+    announced it, when allowMessages() lets it pass, or when any test may cause it: the platform's noise, and the debug messages by which the library's global
     object tells of its creation.
 
     Warnings and worse count whoever sends them; of the others only those without a logging category, since a category
@@ -46,6 +52,13 @@ private:
     Q_DISABLE_COPY(MessageGuard)
     friend void expectMessage(QtMsgType level, const QRegularExpression& pattern);
 
+    friend void allowMessages(QtMsgType level, const QRegularExpression& pattern);
+
+    struct Allowed
+    {
+        QtMsgType level;
+        QRegularExpression pattern;
+    };
     struct Expected
     {
         QString function; //!< with the row of its data: an announcement ends with the function
@@ -54,6 +67,7 @@ private:
     };
 
     static void handle(QtMsgType level, const QMessageLogContext& context, const QString& text);
+    bool isAllowed(QtMsgType level, const QString& text) const;
     bool takeExpected(QtMsgType level, const QString& text);
     void complain(QtMsgType level, const QMessageLogContext& context, const QString& text);
 
@@ -61,6 +75,7 @@ private:
     QtMessageHandler m_outer = nullptr;  //!< the one before main()
     QtMessageHandler m_behind = nullptr; //!< where messages go on to: QTest's own while tests run
     mutable QMutex m_mutex;
+    QVector<Allowed> m_allowed;
     QVector<Expected> m_expected;
     QStringList m_untold; //!< what no test function has failed by
 };

@@ -88,6 +88,18 @@ private Q_SLOTS:
         qWarning("a warning");
     }
 
+    void allows()
+    {
+        TestSupport::allowMessages(QtInfoMsg, QRegularExpression(QStringLiteral("^an? info")));
+        qInfo("an information");
+        qInfo("an information");
+    }
+    void allowsAnotherLevel()
+    {
+        TestSupport::allowMessages(QtInfoMsg, QRegularExpression(QStringLiteral("^a message")));
+        qWarning("a message");
+    }
+
     void recordsAndLooks()
     {
         MessageRecorder log;

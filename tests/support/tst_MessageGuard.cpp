@@ -56,6 +56,8 @@ void tst_MessageGuard::failsOnWhatNobodyExpects_data()
     row("announcesAPartOfIt", "unexpected warning: a warning and more");
     row("announcesInVain", "Not all expected messages were received");
     row("announcesForTheNext", "unexpected warning: a warning");
+    row("allows");
+    row("allowsAnotherLevel", "unexpected warning: a message");
     row("recordsAndLooks");
     row("recordsAndForgets", "unexpected warning: a forgotten warning");
 }

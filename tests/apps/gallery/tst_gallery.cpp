@@ -14,8 +14,8 @@
 #include "pages/Pages.h"
 #include "samples/CellTable.h"
 #include "samples/CellTree.h"
-#include "support/GlobalState.h"
 #include "support/TestMain.h"
+#include "TestSupport.h"
 
 #include <Tessera/Tessera.h>
 #include <Tessera/views/ItemRoles.h>
@@ -263,6 +263,10 @@ private:
 void tst_Gallery::initTestCase()
 {
     m_global.emplace();
+    // The gallery changes sheets all the time, and the library tells of each change; and of the fonts, where there are some.
+    TestSupport::allowMessages(QtInfoMsg,
+                               QRegularExpression(QStringLiteral("^(Successfully to load|Unused) qss File: ")));
+    TestSupport::allowMessages(QtDebugMsg, QRegularExpression(QStringLiteral("QFileInfo\\(:/ttf/.*\\.ttf\\)")));
     QCoreApplication::setApplicationName(QStringLiteral("tessera-gallery"));
     QCoreApplication::setApplicationVersion(QStringLiteral("9.8.7"));
     m_host = std::make_unique<Host>(Look());
@@ -399,6 +403,7 @@ void tst_Gallery::aPageBuildsWhole()
     QFETCH(QString, page);
     QFETCH(bool, inChinese);
     m_host->setLanguage(inChinese ? Language::Chinese : Language::English);
+    TestSupport::MessageRecorder log;
     const auto window = shownWindow(page);
     QVERIFY(window->currentPage());
     const QVector<Card*>& cards = window->currentPage()->cards();
@@ -409,6 +414,7 @@ void tst_Gallery::aPageBuildsWhole()
         QVERIFY2(!QTextDocumentFragment::fromHtml(code->text()).toPlainText().trimmed().isEmpty(),
                  qPrintable(card->title()));
     }
+    QCOMPARE(log.take(), QStringList());
 }
 
 void tst_Gallery::everyTextIsTranslated_data()
@@ -450,6 +456,7 @@ void tst_Gallery::noTextIsClipped()
     QFETCH(QString, page);
     QFETCH(bool, inChinese);
     m_host->setLanguage(inChinese ? Language::Chinese : Language::English);
+    TestSupport::MessageRecorder log;
     const auto window = shownWindow(page);
     QCOMPARE(clippedTexts(window.get()), QStringList());
     QCOMPARE(window->currentPage()->horizontalScrollBar()->maximum(), 0);
@@ -465,6 +472,7 @@ void tst_Gallery::mnemonicsAreUnique()
     QFETCH(QString, page);
     QFETCH(bool, inChinese);
     m_host->setLanguage(inChinese ? Language::Chinese : Language::English);
+    TestSupport::MessageRecorder log;
     const auto window = shownWindow(page);
     const QString letters = mnemonics(window.get());
     QVERIFY(letters.size() >= 5); // those of the tool bar
