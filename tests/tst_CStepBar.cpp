@@ -1370,10 +1370,15 @@ void tst_CStepBar::aPressThatEndsWithDisablingIsNoClick()
     QVERIFY(!pBox->isDown());
     QCOMPARE(reports.count(), 0);
     QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("100"));
-    if (byKey)
+    if (byKey) {
         QTest::keyRelease(pBox, Qt::Key_Space);
-    else
+        // Qt 6 tells of a key that nobody took.
+        const QStringList said = m_pLog->take();
+        QVERIFY(said.isEmpty() ||
+                said == QStringList(QStringLiteral("warning: Keyboard event not accepted by receiving widget")));
+    } else {
         QTest::mouseRelease(pBox, Qt::LeftButton);
+    }
     QCOMPARE(reports.count(), 0);
     QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("100"));
 

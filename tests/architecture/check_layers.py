@@ -22,8 +22,8 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^">]+)[>"]', re.MULTILINE)
 class Place:
     """An entry of a table: a folder that ends in a slash, or a file."""
 
-    def __init__(self, path, table, row):
-        self.path, self.table, self.row = path, table, row
+    def __init__(self, path, table, row, layer):
+        self.path, self.table, self.row, self.layer = path, table, row, layer
 
     def holds(self, name):
         return name.startswith(self.path) if self.path.endswith("/") else name == self.path
@@ -38,7 +38,7 @@ def read_tables(text):
         elif cells[:2] == ["layer", "folder"]:
             table, row = table + 1, 0
         elif row is not None and not set(cells[0]) <= set("-: "):
-            places += [Place(path, table, row) for path in re.findall(r"`([^`]+)`", cells[1])]
+            places += [Place(path, table, row, cells[0]) for path in re.findall(r"`([^`]+)`", cells[1])]
             row += 1
     return places
 

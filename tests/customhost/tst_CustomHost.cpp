@@ -60,7 +60,8 @@ void tst_CustomHost::logsTheColourTableBeforeTheCreationBegins()
         lines << TestSupport::levelName(line.level) + QStringLiteral(": ") + line.text;
     }
     QCOMPARE(lines, (QStringList{QStringLiteral("critical: Failed to load :/csv/ColorInfo.csv!"),
-                                 QStringLiteral("debug: Tessera Singleton Create Begin"), QStringLiteral("debug: ()"),
+                                 QStringLiteral("debug: Tessera Singleton Create Begin"),
+                                 QStringLiteral("debug: ") + TestSupport::debugOfList({}),
                                  QStringLiteral("debug: Tessera Singleton Create End")}));
     QVERIFY(m_creation.first().function.contains(QLatin1String("initColorInfo")));
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "look/ChangeMark.h"
 
+#include "look/PaintedIconEngine.h"
 #include "look/Theme.h"
 
 #include <QApplication>
-#include <QIconEngine>
 #include <QPainter>
 
 namespace registers {
@@ -15,7 +15,7 @@ constexpr int kMarkSide = 12;
 constexpr double kDotShare = 0.27; ///< of the area's side, as the radius
 constexpr double kRingWidth = 1.4;
 
-class MarkIconEngine : public QIconEngine
+class MarkIconEngine : public PaintedIconEngine
 {
 public:
     explicit MarkIconEngine(MarkShape shape)
@@ -29,15 +29,6 @@ public:
         const QColor color =
             mode == QIcon::Selected ? palette.color(QPalette::HighlightedText) : accentColor(palette, Accent::Changed);
         paintMark(*painter, rect, m_shape, color);
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
     }
 
     QIconEngine* clone() const override { return new MarkIconEngine(m_shape); }

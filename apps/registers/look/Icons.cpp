@@ -2,11 +2,11 @@
 #include "look/Icons.h"
 
 #include "common/Theme.h"
+#include "look/PaintedIconEngine.h"
 #include "look/Theme.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QIconEngine>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -69,7 +69,7 @@ QColor colorOf(QIcon::Mode mode)
 }
 
 /// Draws an icon whose strokes are of "currentColor" in the colour that palette and mode ask for.
-class LineIconEngine : public QIconEngine
+class LineIconEngine : public PaintedIconEngine
 {
 public:
     explicit LineIconEngine(const QByteArray& svg)
@@ -84,15 +84,6 @@ public:
         painter->setRenderHint(QPainter::Antialiasing);
         m_renderer.render(painter, rect);
         painter->restore();
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
     }
 
     QIconEngine* clone() const override { return new LineIconEngine(m_svg); }

@@ -165,6 +165,8 @@ void CDigitsEdit::keyPressEvent(QKeyEvent* event)
 
 void CDigitsEdit::inputMethodEvent(QInputMethodEvent* event)
 {
+    if (isReadOnly()) // Qt 6.4 leaves that to the input method
+        return event->ignore();
     if (!takesDigits())
         return QLineEdit::inputMethodEvent(event);
     event->accept();
