@@ -3,7 +3,6 @@
 #include "../TestSupport.h"
 #include "TestMain.h"
 
-#include <QDebug>
 #include <QLoggingCategory>
 #include <QtTest>
 
@@ -35,11 +34,15 @@ private Q_SLOTS:
     void isCritical() { qCritical("a critical message"); }
     void informs() { qInfo("an information"); }
     void debugs() { qDebug("a debug message"); }
-    void warnsInACategory() { qCWarning(QLoggingCategory("some.category")) << "of a category"; }
+    void warnsInACategory()
+    {
+        const QLoggingCategory category("some.category");
+        qCWarning(category, "of a category");
+    }
     void debugsInACategory()
     {
         const QLoggingCategory category("some.category");
-        qCDebug(category) << "of a category";
+        qCDebug(category, "of a category");
     }
     void warnsAsThePlatform() { qWarning("This plugin does not support raise()"); }
     void warnsThenFails()
