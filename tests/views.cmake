@@ -20,6 +20,6 @@ tessera_test(tst_DigitsText LIBRARIES ${TESSERA_TEST_HOST} SOURCES
 tessera_test(tst_CDigitsEdit)
 tessera_test(tst_CBitDialog SOURCES ModalDriver.h)
 tessera_test(tst_CPenDialog SOURCES ModalDriver.h)
-tessera_test_contract(ItemKeyContract ItemViewContract)
+tessera_test_contract(ItemKeyContract ItemViewContract.h)
 tessera_test(tst_TbView LIBRARIES ItemKeyContract SOURCES CellModels.h ModalDriver.h)
 tessera_test(tst_TrView LIBRARIES ItemKeyContract SOURCES CellModels.h ModalDriver.h)
