@@ -38,9 +38,6 @@ class IntegerSpinBoxContract : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    virtual void init() = 0;
-    virtual void cleanup() = 0;
-
     // A new box
     virtual void aNewBoxShowsZeroInTheRangeZeroToNinetyNine() = 0;
     virtual void aNewBoxBelongsToItsParent() = 0;
@@ -444,19 +441,7 @@ protected:
         return values;
     }
 
-    std::optional<TestSupport::MessageRecorder> m_messages;
-
 private:
-    void init() override { m_messages.emplace(); }
-
-    //! No test leaves a message behind that it has not looked at.
-    void cleanup() override
-    {
-        const QStringList unexpected = m_messages->take();
-        m_messages.reset();
-        QCOMPARE(unexpected, QStringList());
-    }
-
     // ----------------------------------------------------------------------------------------------- A new box
 
     void aNewBoxShowsZeroInTheRangeZeroToNinetyNine() override
@@ -667,6 +652,7 @@ private:
         QFETCH(T, minimum);
         QFETCH(T, maximum);
         QFETCH(T, expected);
+        TestSupport::MessageRecorder messages;
         Box box;
         box.setValue(50);
         Heard heard(box);
@@ -690,6 +676,7 @@ private:
     {
         QFETCH(T, minimum);
         QFETCH(T, maximum);
+        TestSupport::MessageRecorder messages;
         Box box;
         box.setValue(50);
         Heard heard(box);
@@ -698,7 +685,7 @@ private:
         QCOMPARE(box.maximum(), T(99));
         QCOMPARE(box.value(), T(50));
         QCOMPARE(heard.take(), QStringList());
-        QCOMPARE(m_messages->take(), QStringList());
+        QCOMPARE(messages.take(), QStringList());
     }
 
     void theSameBoundsAgainDoNothing() override
@@ -1003,12 +990,13 @@ private:
 
     void everyBaseFromTwoToThirtySixIsTakenSilently() override
     {
+        TestSupport::MessageRecorder messages;
         Box box;
         for (int base = 2; base <= 36; ++base) {
             box.setDisplayIntegerBase(base);
             QCOMPARE(box.displayIntegerBase(), base);
         }
-        QCOMPARE(m_messages->take(), QStringList());
+        QCOMPARE(messages.take(), QStringList());
     }
 
     void anotherBaseIsShownAtOnce() override
@@ -1054,12 +1042,13 @@ private:
         box.setValue(99);
         box.setDisplayIntegerBase(16);
         Heard heard(box);
+        TestSupport::MessageRecorder messages;
         box.setDisplayIntegerBase(base);
         QCOMPARE(box.displayIntegerBase(), 10);
         QCOMPARE(box.text(), "99"_s);
         QCOMPARE(heard.take(), QStringList({textChanged("99")}));
 
-        const QVector<TestSupport::LogLine> lines = m_messages->takeLines();
+        const QVector<TestSupport::LogLine> lines = messages.takeLines();
         QCOMPARE(lines.size(), 1);
         QCOMPARE(lines.first().level, QtWarningMsg);
         QCOMPARE(lines.first().text, "%1::setDisplayIntegerBase: Invalid base (%2)"_s.arg(className()).arg(base));
@@ -1072,11 +1061,12 @@ private:
         Box box;
         lineEditOf(box).clear();
         Heard heard(box);
+        TestSupport::MessageRecorder messages;
         box.setDisplayIntegerBase(1);
         QCOMPARE(box.displayIntegerBase(), 10);
         QCOMPARE(box.text(), QString());
         QCOMPARE(heard.take(), QStringList());
-        QCOMPARE(m_messages->take(),
+        QCOMPARE(messages.take(),
                  QStringList({"warning: %1::setDisplayIntegerBase: Invalid base (1)"_s.arg(className())}));
     }
 
@@ -1152,12 +1142,8 @@ private:
 
     void theLocaleOfTheUserDoesNotMatter() override
     {
-        struct GermanLocale
-        {
-            GermanLocale() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
-            ~GermanLocale() { QLocale::setDefault(before); }
-            const QLocale before;
-        } const german;
+        const TestSupport::GlobalState global;
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
         QVERIFY(QLocale().toString(1234).contains(QLatin1Char('.')));
         Box box;
         box.setRange(0, Limits::max());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/GlobalState.h"
+
 #include "CellModels.h"
 
 #include <QAbstractItemModelTester>
@@ -13,7 +15,6 @@
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
-#include <QTranslator>
 #include <QtTest>
 
 #include <limits>
@@ -412,11 +413,10 @@ private Q_SLOTS:
                                m_pHost->at(1, 0).data().toString(), m_pHost->at(1, 1).data().toString()};
         };
 
-        QTranslator chinese;
-        QVERIFY(chinese.load(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
-        QVERIFY(QCoreApplication::installTranslator(&chinese));
+        TestSupport::GlobalState global;
+        QVERIFY(global.install(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
         const QStringList translated = words();
-        QVERIFY(QCoreApplication::removeTranslator(&chinese));
+        global.removeCatalogues();
         QCOMPARE(translated, (QStringList{QStringLiteral("是"), QStringLiteral("否"), QStringLiteral("未定义"),
                                           QStringLiteral("未定义")}));
         QCOMPARE(words(), (QStringList{QStringLiteral("True"), QStringLiteral("False"), QStringLiteral("Undefined"),

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCoreApplication>
+#include "support/GlobalState.h"
+#include "support/MessageGuard.h"
+
 #include <QDebug>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QResource>
-#include <QSettings>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <QVector>
 
 //! What several tests need: the log as data, and settings that belong to one test alone.
@@ -53,7 +51,8 @@ inline QString debugOfList(const QStringList& items)
 
 /*!
     Takes every message from its construction to its destruction, from any thread, instead of the handler that
-    was installed before; recorders may be nested. The messages of Qt's offscreen platform are left out.
+    was installed before; recorders may be nested. The messages of Qt's offscreen platform are left out. What nobody
+    has taken from it goes on to that handler at the end, which is the test's guard and fails it.
 */
 class MessageRecorder
 {
@@ -69,6 +68,11 @@ public:
     {
         qInstallMessageHandler(m_previous);
         current() = m_pOuter;
+        for (const LogLine& line : qAsConst(m_lines)) {
+            const QByteArray file = line.file.toUtf8();
+            const QByteArray function = line.function.toUtf8();
+            m_previous(line.level, {file.constData(), 0, function.constData(), "default"}, line.text);
+        }
     }
 
     //! The messages since the last call of takeLines() or take().
@@ -102,7 +106,7 @@ private:
 
     static void handle(QtMsgType level, const QMessageLogContext& context, const QString& sText)
     {
-        if (sText.startsWith(QLatin1String("This plugin does not support "))) {
+        if (isPlatformNoise(level, sText)) {
             return;
         }
         MessageRecorder* const pRecorder = current();
@@ -114,73 +118,6 @@ private:
     QtMessageHandler m_previous = nullptr;
     QMutex m_mutex;
     QVector<LogLine> m_lines;
-};
-
-/*!
-    An empty settings store of its own for as long as it lives: a temporary folder for all of QSettings'
-    files, the INI format, and names for the organization and the application. Everything is put back at the
-    end.
-*/
-class SettingsGuard
-{
-public:
-    SettingsGuard()
-        : m_sOrganization(QCoreApplication::organizationName())
-        , m_sDomain(QCoreApplication::organizationDomain())
-        , m_sApplication(QCoreApplication::applicationName())
-        , m_defaultFormat(QSettings::defaultFormat())
-    {
-        for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat}) {
-            for (const QSettings::Scope scope : {QSettings::UserScope, QSettings::SystemScope}) {
-                m_locations.append({format, scope, locationOf(format, scope)});
-                QSettings::setPath(format, scope,
-                                   m_folder.filePath(scope == QSettings::UserScope ? QStringLiteral("user")
-                                                                                   : QStringLiteral("system")));
-            }
-        }
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QCoreApplication::setOrganizationName(QStringLiteral("TestOrganization"));
-        QCoreApplication::setOrganizationDomain(QString());
-        QCoreApplication::setApplicationName(QStringLiteral("TestApplication"));
-    }
-
-    ~SettingsGuard()
-    {
-        QCoreApplication::setOrganizationName(m_sOrganization);
-        QCoreApplication::setOrganizationDomain(m_sDomain);
-        QCoreApplication::setApplicationName(m_sApplication);
-        QSettings::setDefaultFormat(m_defaultFormat);
-        for (const Location& location : qAsConst(m_locations)) {
-            QSettings::setPath(location.format, location.scope, location.sPath);
-        }
-    }
-
-    //! The folder that the user's settings files lie in.
-    QString folder() const { return m_folder.filePath(QStringLiteral("user")); }
-
-private:
-    Q_DISABLE_COPY(SettingsGuard)
-
-    struct Location
-    {
-        QSettings::Format format;
-        QSettings::Scope scope;
-        QString sPath;
-    };
-
-    //! QSettings tells no path, but its file names end in /organization/application.suffix below it.
-    static QString locationOf(QSettings::Format format, QSettings::Scope scope)
-    {
-        const QSettings probe(format, scope, QStringLiteral("o"), QStringLiteral("a"));
-        return QFileInfo(probe.fileName()).dir().filePath(QStringLiteral(".."));
-    }
-
-    QTemporaryDir m_folder;
-    QString m_sOrganization;
-    QString m_sDomain;
-    QString m_sApplication;
-    QSettings::Format m_defaultFormat;
-    QVector<Location> m_locations;
 };
 
 //! The whole content of a file; null when it cannot be read.

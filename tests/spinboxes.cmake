@@ -1,6 +1,7 @@
 # The eight integer spin boxes: the contract of them all for each one, what they are made of, and how they hang together.
+tessera_test_contract(IntegerSpinBoxContract)
 foreach(test IN LISTS TESSERA_SPIN_BOX_TESTS)
-    tessera_test(${test} SOURCES IntegerSpinBoxContract.h)
+    tessera_test(${test} LIBRARIES IntegerSpinBoxContract)
 endforeach()
 tessera_test(tst_IntegerStep)
 tessera_test(tst_IntegerText LIBRARIES ${TESSERA_TEST_HOST})

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <CCommon.h>
@@ -12,14 +13,15 @@
 #include <QtTest>
 
 #include <cstdio>
+#include <optional>
 #include <type_traits>
 
 using nsUI::tagAppFont;
 using nsUI::TesseraGlobal;
 using TestSupport::contentOf;
+using TestSupport::GlobalState;
 using TestSupport::HostResources;
 using TestSupport::MessageRecorder;
-using TestSupport::SettingsGuard;
 
 namespace {
 
@@ -133,31 +135,22 @@ private Q_SLOTS:
     void isUsableBeforeThereIsAnApplication();
 
 private:
-    QScopedPointer<MessageRecorder> m_pLog;
-    QScopedPointer<SettingsGuard> m_pSettings;
-    QFont m_fontBefore;
+    std::optional<GlobalState> m_global;
 };
 
 void tst_ApplicationFont::initTestCase()
 {
-    const MessageRecorder quiet;
     TesseraGlobal::instance();
-    m_fontBefore = QApplication::font();
 }
 
 void tst_ApplicationFont::init()
 {
-    m_pSettings.reset(new SettingsGuard);
-    m_pLog.reset(new MessageRecorder);
+    m_global.emplace();
 }
 
 void tst_ApplicationFont::cleanup()
 {
-    qApp->setStyleSheet(QString());
-    QApplication::setFont(m_fontBefore);
-    QCOMPARE(m_pLog->take(), QStringList());
-    m_pLog.reset();
-    m_pSettings.reset();
+    m_global.reset();
 }
 
 void tst_ApplicationFont::cleanupTestCase()
@@ -486,8 +479,8 @@ void tst_ApplicationFont::currentFontShowsTheChoiceAfterTheNextStyleSheet()
 {
     put({{QStringLiteral("Setting_AppFont/PointSize"), 40}});
     QCOMPARE(TesseraGlobal::instance().getCurrentAppFont().pointSize(), 10);
+    TestSupport::expectMessage(QtInfoMsg, QStringLiteral("Unused qss File: \"Tessera.qss\""));
     TesseraGlobal::loadStyleSheet({}, QString());
-    m_pLog->take();
     QCOMPARE(TesseraGlobal::instance().getCurrentAppFont().pointSize(), 40);
 }
 
@@ -501,8 +494,9 @@ void tst_ApplicationFont::logsAnEmptyListWithoutFontFiles()
 {
     QVERIFY(!QDir(QStringLiteral(":/ttf")).exists());
     const QStringList before = QFontDatabase().families();
+    MessageRecorder log;
     TesseraGlobal::initFont();
-    QCOMPARE(m_pLog->take(), QStringList{QStringLiteral("debug: ") + TestSupport::debugOfList({})});
+    QCOMPARE(log.take(), QStringList{QStringLiteral("debug: ") + TestSupport::debugOfList({})});
     QCOMPARE(QFontDatabase().families(), before);
 }
 
@@ -521,8 +515,9 @@ void tst_ApplicationFont::registersEveryFontFileAndLogsTheirList()
     }
     QCOMPARE(listed.size(), 2);
 
+    MessageRecorder log;
     TesseraGlobal::initFont();
-    QCOMPARE(m_pLog->take(), QStringList{QStringLiteral("debug: ") + TestSupport::debugOfList(listed)});
+    QCOMPARE(log.take(), QStringList{QStringLiteral("debug: ") + TestSupport::debugOfList(listed)});
     QVERIFY(QFontDatabase().families().contains(sOwnFamily)); // in spite of the broken file beside it
 }
 
@@ -531,8 +526,9 @@ void tst_ApplicationFont::leavesTheApplicationsFontAlone()
     const QFont before = QApplication::font();
     const HostResources host(contentOf(QStringLiteral(FONT_RESOURCES)));
     QVERIFY(host.isRegistered());
+    MessageRecorder log;
     TesseraGlobal::initFont();
-    m_pLog->take();
+    QCOMPARE(log.take().size(), 1);
     QCOMPARE(QApplication::font(), before);
     QCOMPARE(qApp->styleSheet(), QString());
 }
@@ -571,9 +567,7 @@ int main(int argc, char* argv[])
 {
     if (argc == 4 && qstrcmp(argv[1], g_early) == 0)
         return earlyUse(argc, argv);
-    QApplication app(argc, argv);
-    tst_ApplicationFont test;
-    return QTest::qExec(&test, argc, argv);
+    return TestSupport::testMain<QApplication, tst_ApplicationFont>(argc, argv);
 }
 
 #include "tst_ApplicationFont.moc"

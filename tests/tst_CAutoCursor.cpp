@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
+
 #include <Tessera/widgets/CAutoCursor.h>
 
 #include <QCursor>
@@ -338,5 +340,5 @@ void tst_CAutoCursor::assignmentsCanBeChained()
     QGuiApplication::restoreOverrideCursor();
 }
 
-QTEST_MAIN(tst_CAutoCursor)
+TESSERA_TEST_MAIN(tst_CAutoCursor)
 #include "tst_CAutoCursor.moc"

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ModalDriver.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 
 #include <Tessera/views/CBitDialog.h>
 #include <Tessera/views/TbView.h>
@@ -19,7 +21,6 @@
 #include <QScreen>
 #include <QSet>
 #include <QSignalSpy>
-#include <QTranslator>
 #include <QtTest>
 #include <QVBoxLayout>
 
@@ -250,11 +251,10 @@ void tst_CBitDialog::itIsBuiltOfTextsGridAndButtons()
 
 void tst_CBitDialog::itsTextsAreTranslated()
 {
-    QTranslator chinese;
-    QVERIFY(chinese.load(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
-    QVERIFY(QCoreApplication::installTranslator(&chinese));
+    TestSupport::GlobalState global;
+    QVERIFY(global.install(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
     CBitDialog dialog;
-    QVERIFY(QCoreApplication::removeTranslator(&chinese));
+    global.removeCatalogues();
     QCOMPARE(dialog.windowTitle(), QStringLiteral("位设置"));
     dialog.setByteArray(QByteArray("\x12"));
     QCOMPARE(Parts(dialog).pModel->headerData(1, Qt::Horizontal).toString(), QStringLiteral("位值"));
@@ -335,12 +335,10 @@ void tst_CBitDialog::itsButtonsCanBeReached()
 
 void tst_CBitDialog::theGridIsReadableInADarkPalette()
 {
-    const QPalette before = QApplication::palette();
-    QPalette dark(QColor(0x30, 0x30, 0x30));
-    QApplication::setPalette(dark);
+    const TestSupport::GlobalState global;
+    QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30)));
     const CBitDialog dialog(QByteArray("\x12"), {});
     const QColor text = dialog.findChild<TbView*>()->palette().color(QPalette::Text);
-    QApplication::setPalette(before);
     QVERIFY2(text.lightness() < 64, qPrintable(text.name()));
 }
 
@@ -942,5 +940,5 @@ void tst_CBitDialog::theStaticCallMakesADialogOfHalfTheScreen()
     QVERIFY(driver.hasActed());
 }
 
-QTEST_MAIN(tst_CBitDialog)
+TESSERA_TEST_MAIN(tst_CBitDialog)
 #include "tst_CBitDialog.moc"

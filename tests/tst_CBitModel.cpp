@@ -2,6 +2,8 @@
 //
 // The grid is internal to the library and not exported, so its source is part of this test.
 #include "CellModels.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 
 #include <Tessera/views/CBitModel.h>
 
@@ -10,7 +12,6 @@
 #include <QCoreApplication>
 #include <QScopedPointer>
 #include <QSignalSpy>
-#include <QTranslator>
 #include <QtTest>
 
 using CellModels::identical;
@@ -549,16 +550,15 @@ void tst_CBitModel::theRowsAreNumbered()
 
 void tst_CBitModel::theHeadersAreTranslatedWhenTheModelIsMade()
 {
-    QTranslator chinese;
-    QVERIFY(chinese.load(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
-    QVERIFY(QCoreApplication::installTranslator(&chinese));
+    TestSupport::GlobalState global;
+    QVERIFY(global.install(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
     CBitModel model;
     QCOMPARE(m_pModel->headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("Bit Value"));
-    QVERIFY(QCoreApplication::removeTranslator(&chinese));
+    global.removeCatalogues();
     const QStringList texts{QStringLiteral("位序号"), QStringLiteral("位值"), QStringLiteral("描述")};
     for (int nSection = 0; nSection < 3; ++nSection)
         QCOMPARE(model.headerData(nSection, Qt::Horizontal, Qt::DisplayRole).toString(), texts.at(nSection));
 }
 
-QTEST_MAIN(tst_CBitModel)
+TESSERA_TEST_MAIN(tst_CBitModel)
 #include "tst_CBitModel.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <CCommon.h>
@@ -6,16 +7,16 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QScopedPointer>
 #include <QSet>
 #include <QtTest>
 
+#include <optional>
 #include <thread>
 #include <type_traits>
 #include <vector>
 
 using TestSupport::contentOf;
-using TestSupport::SettingsGuard;
+using TestSupport::GlobalState;
 
 namespace {
 
@@ -71,17 +72,17 @@ private Q_SLOTS:
     void everyCallOpensTheStoreAnew();
 
 private:
-    QScopedPointer<SettingsGuard> m_pSettings;
+    std::optional<GlobalState> m_global;
 };
 
 void tst_CCommon::init()
 {
-    m_pSettings.reset(new SettingsGuard);
+    m_global.emplace();
 }
 
 void tst_CCommon::cleanup()
 {
-    m_pSettings.reset();
+    m_global.reset();
 }
 
 void tst_CCommon::thereIsOneObject()
@@ -296,7 +297,7 @@ void tst_CCommon::storesWithoutAnOrganizationToo()
     QCOMPARE(pSettings->status(), QSettings::NoError);
     QCOMPARE(pSettings->value(QStringLiteral("Key")).toInt(), 42);
     QCOMPARE(QFileInfo(pSettings->fileName()).dir().dirName(), QStringLiteral("TestApplication"));
-    QVERIFY(pSettings->fileName().startsWith(m_pSettings->folder()));
+    QVERIFY(pSettings->fileName().startsWith(m_global->settingsFolder()));
     QVERIFY(contentOf(pSettings->fileName()).contains("Key=42"));
     QCOMPARE(QCoreApplication::organizationName(), QString()); // nobody's name was set for that
 }
@@ -374,5 +375,5 @@ void tst_CCommon::everyCallOpensTheStoreAnew()
     QCOMPARE(pSecond->group(), QString());
 }
 
-QTEST_GUILESS_MAIN(tst_CCommon)
+TESSERA_TEST_GUILESS_MAIN(tst_CCommon)
 #include "tst_CCommon.moc"

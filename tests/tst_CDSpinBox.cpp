@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "TestSupport.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 
 #include <Tessera/widgets/CDSpinBox.h>
 
@@ -28,7 +29,6 @@
 #include <type_traits>
 
 using nsUI::CDSpinBox;
-using TestSupport::MessageRecorder;
 
 Q_DECLARE_METATYPE(QValidator::State)
 Q_DECLARE_METATYPE(nsUI::CDSpinBox::StepType)
@@ -153,9 +153,6 @@ class tst_CDSpinBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void isAQDoubleSpinBoxWithNothingOfItsOwnInTheMetaObject();
     void ownsTheParentsCare();
     void startsWithTheFormatFAndTheDefaultsOfQDoubleSpinBox();
@@ -224,21 +221,7 @@ private Q_SLOTS:
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // Qt 6 has no strut
     void hintIsNeverSmallerThanTheGlobalStrut();
 #endif
-
-private:
-    QScopedPointer<MessageRecorder> m_pLog;
 };
-
-void tst_CDSpinBox::init()
-{
-    m_pLog.reset(new MessageRecorder);
-}
-
-void tst_CDSpinBox::cleanup()
-{
-    QCOMPARE(m_pLog->take(), QStringList());
-    m_pLog.reset();
-}
 
 void tst_CDSpinBox::isAQDoubleSpinBoxWithNothingOfItsOwnInTheMetaObject()
 {
@@ -341,7 +324,7 @@ void tst_CDSpinBox::repaintsWhenTheFormatChangesAndOnlyThen()
             CDSpinBox::paintEvent(pEvent);
         }
     };
-    const int nFlashTime = QApplication::cursorFlashTime();
+    const TestSupport::GlobalState global;
     QApplication::setCursorFlashTime(0); // a blinking cursor paints too
     PaintCounter box;
     box.show();
@@ -357,7 +340,6 @@ void tst_CDSpinBox::repaintsWhenTheFormatChangesAndOnlyThen()
     box.setFmtChar(QLatin1Char('E'));
     QCoreApplication::processEvents();
     const int nChanged = box.m_nPaints;
-    QApplication::setCursorFlashTime(nFlashTime);
     QCOMPARE(nUnchanged, 0);
     QCOMPARE(nChanged, 1);
 }
@@ -1318,5 +1300,5 @@ void tst_CDSpinBox::hintIsNeverSmallerThanTheGlobalStrut()
 }
 #endif
 
-QTEST_MAIN(tst_CDSpinBox)
+TESSERA_TEST_MAIN(tst_CDSpinBox)
 #include "tst_CDSpinBox.moc"

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "TestSupport.h"
+#include "support/TestMain.h"
 
 #include <Tessera/widgets/CDataComboBox.h>
 
 #include <QMetaMethod>
-#include <QScopedPointer>
 #include <QSignalSpy>
 #include <QtTest>
 
 using nsUI::CDataComboBox;
-using TestSupport::MessageRecorder;
 
 namespace {
 
@@ -42,9 +40,6 @@ class tst_CDataComboBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void isAQComboBoxWithOneSlotInTwoEntries();
     void belongsToItsParent();
     void choosesTheFirstItemWithTheData_data();
@@ -55,21 +50,7 @@ private Q_SLOTS:
     void doesNothingWithoutItems();
     void takesInvalidDataForThatOfNoCurrentItem();
     void canBeInvokedInEitherForm();
-
-private:
-    QScopedPointer<MessageRecorder> m_pLog;
 };
-
-void tst_CDataComboBox::init()
-{
-    m_pLog.reset(new MessageRecorder);
-}
-
-void tst_CDataComboBox::cleanup()
-{
-    QCOMPARE(m_pLog->take(), QStringList());
-    m_pLog.reset();
-}
 
 void tst_CDataComboBox::isAQComboBoxWithOneSlotInTwoEntries()
 {
@@ -226,5 +207,5 @@ void tst_CDataComboBox::canBeInvokedInEitherForm()
     QCOMPARE(box.currentIndex(), 1);
 }
 
-QTEST_MAIN(tst_CDataComboBox)
+TESSERA_TEST_MAIN(tst_CDataComboBox)
 #include "tst_CDataComboBox.moc"

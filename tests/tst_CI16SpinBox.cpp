@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IntegerSpinBoxContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CI16SpinBox.h>
 
@@ -53,5 +54,5 @@ void tst_CI16SpinBox::aPageDownBeyondTheTypeComesInFromAbove()
     QCOMPARE(box.value(), short(0));
 }
 
-QTEST_MAIN(tst_CI16SpinBox)
+TESSERA_TEST_MAIN(tst_CI16SpinBox)
 #include "tst_CI16SpinBox.moc"

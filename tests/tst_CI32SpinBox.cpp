@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IntegerSpinBoxContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CI32SpinBox.h>
 
@@ -67,5 +68,5 @@ void tst_CI32SpinBox::aRangeWiderThanHalfTheTypeWrapsByAWrappedModulus()
     QCOMPARE(box.value(), expected);
 }
 
-QTEST_MAIN(tst_CI32SpinBox)
+TESSERA_TEST_MAIN(tst_CI32SpinBox)
 #include "tst_CI32SpinBox.moc"

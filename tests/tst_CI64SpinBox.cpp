@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IntegerSpinBoxContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CI64SpinBox.h>
 
@@ -144,5 +145,5 @@ void tst_CI64SpinBox::aStepIsExactAtTheEndsOfTheType()
     QCOMPARE(box.value(), expected);
 }
 
-QTEST_MAIN(tst_CI64SpinBox)
+TESSERA_TEST_MAIN(tst_CI64SpinBox)
 #include "tst_CI64SpinBox.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IntegerSpinBoxContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CI8SpinBox.h>
 
@@ -64,5 +65,5 @@ void tst_CI8SpinBox::minusOneIsTwoHexadecimalDigits()
     QCOMPARE(stateOf(box, box.text()), QValidator::Invalid);
 }
 
-QTEST_MAIN(tst_CI8SpinBox)
+TESSERA_TEST_MAIN(tst_CI8SpinBox)
 #include "tst_CI8SpinBox.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ModalDriver.h"
+#include "support/TestMain.h"
 
 #include <Tessera/widgets/CMessageDlg.h>
 #include <Tessera/widgets/CustomTextBrowser.h>
@@ -320,5 +321,5 @@ void tst_CMessageDlg::aButtonThatIsMissing()
     QVERIFY(m_pDialog->button(QDialogButtonBox::Ok)->isEnabled());
 }
 
-QTEST_MAIN(tst_CMessageDlg)
+TESSERA_TEST_MAIN(tst_CMessageDlg)
 #include "tst_CMessageDlg.moc"

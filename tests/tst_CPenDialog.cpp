@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ModalDriver.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 
 #include <Tessera/widgets/CDataComboBox.h>
 #include <Tessera/widgets/CPenDialog.h>
@@ -16,7 +18,6 @@
 #include <QPushButton>
 #include <QScopedPointer>
 #include <QSignalSpy>
-#include <QTranslator>
 #include <QtTest>
 #include <QVBoxLayout>
 
@@ -234,21 +235,19 @@ void tst_CPenDialog::eachStyleHasItsName()
 {
     QFETCH(Qt::PenStyle, style);
     QTEST(CPenDialog::getPenStyleDesc(style), "english");
-    QTranslator chinese;
-    QVERIFY(chinese.load(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
-    QVERIFY(QCoreApplication::installTranslator(&chinese));
+    TestSupport::GlobalState global;
+    QVERIFY(global.install(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
     const QString sTranslated = CPenDialog::getPenStyleDesc(style);
-    QVERIFY(QCoreApplication::removeTranslator(&chinese));
+    global.removeCatalogues();
     QTEST(sTranslated, "chinese");
 }
 
 void tst_CPenDialog::itsTextsAreTranslated()
 {
-    QTranslator chinese;
-    QVERIFY(chinese.load(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
-    QVERIFY(QCoreApplication::installTranslator(&chinese));
+    TestSupport::GlobalState global;
+    QVERIFY(global.install(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
     const CPenDialog dialog;
-    QVERIFY(QCoreApplication::removeTranslator(&chinese));
+    global.removeCatalogues();
     const Parts parts(dialog);
     QCOMPARE(dialog.windowTitle(), QStringLiteral("画笔设置"));
     QCOMPARE(parts.label(0), QStringLiteral("颜色："));
@@ -686,5 +685,5 @@ void tst_CPenDialog::itsButtonsCanBeReached()
     m_pDialog->setBtnEnable(QDialogButtonBox::Apply, false); // there is none
 }
 
-QTEST_MAIN(tst_CPenDialog)
+TESSERA_TEST_MAIN(tst_CPenDialog)
 #include "tst_CPenDialog.moc"

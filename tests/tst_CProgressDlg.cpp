@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ModalDriver.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 
 #include <Tessera/widgets/CProgressDlg.h>
 
@@ -20,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include <climits>
+#include <optional>
 
 #include <sys/resource.h>
 
@@ -131,18 +134,20 @@ private:
         QVERIFY(QTest::qWaitForWindowActive(m_pDialog.data()));
     }
 
+    std::optional<TestSupport::GlobalState> m_global;
     QScopedPointer<CProgressDlg> m_pDialog;
 };
 
 void tst_CProgressDlg::init()
 {
+    m_global.emplace();
     m_pDialog.reset(new CProgressDlg);
 }
 
 void tst_CProgressDlg::cleanup()
 {
     m_pDialog.reset();
-    qApp->setStyleSheet(QString());
+    m_global.reset();
 }
 
 void tst_CProgressDlg::itDeclaresNothing()
@@ -549,11 +554,11 @@ void tst_CProgressDlg::aPlainDialogDoesNotComeBackFromAKey()
 
 int main(int argc, char* argv[])
 {
-    const QApplication application(argc, argv);
-    if (QCoreApplication::arguments().value(1) == sPressAKey)
+    if (argc == 2 && sPressAKey == QLatin1String(argv[1])) {
+        const QApplication application(argc, argv);
         return pressAKey();
-    tst_CProgressDlg test;
-    return QTest::qExec(&test, argc, argv);
+    }
+    return TestSupport::testMain<QApplication, tst_CProgressDlg>(argc, argv);
 }
 
 #include "tst_CProgressDlg.moc"

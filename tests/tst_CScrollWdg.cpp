@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
+
 #include <Tessera/widgets/CScrollWdg.h>
 
 #include <QPointer>
@@ -354,5 +356,5 @@ void tst_CScrollWdg::aFreeContentFillsTheViewportToo()
     }
 }
 
-QTEST_MAIN(tst_CScrollWdg)
+TESSERA_TEST_MAIN(tst_CScrollWdg)
 #include "tst_CScrollWdg.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <Tessera/Tessera.h>
@@ -23,13 +24,14 @@
 #include <QVBoxLayout>
 
 #include <climits>
+#include <optional>
 #include <random>
 #include <utility>
 
 using nsUI::CStepBar;
 using nsUI::TesseraGlobal;
+using TestSupport::GlobalState;
 using TestSupport::MessageRecorder;
-using TestSupport::SettingsGuard;
 
 Q_DECLARE_METATYPE(QBoxLayout::Direction)
 Q_DECLARE_METATYPE(nsUI::CStepBar::Alignment)
@@ -515,14 +517,15 @@ private:
         QVERIFY(QTest::qWaitForWindowExposed(m_pBar.data()));
     }
     void click(int nIndex) { QTest::mouseClick(box(*m_pBar, nIndex), Qt::LeftButton); }
+    void loadTheSheet() const;
 
-    QScopedPointer<MessageRecorder> m_pLog;
+    std::optional<GlobalState> m_global;
     QScopedPointer<CStepBar> m_pBar;
 };
 
 void tst_CStepBar::init()
 {
-    m_pLog.reset(new MessageRecorder);
+    m_global.emplace();
     m_pBar.reset(new CStepBar);
     m_pBar->setWindowFlag(Qt::FramelessWindowHint);
 }
@@ -530,9 +533,7 @@ void tst_CStepBar::init()
 void tst_CStepBar::cleanup()
 {
     m_pBar.reset();
-    qApp->setStyleSheet(QString());
-    QCOMPARE(m_pLog->take(), QStringList());
-    m_pLog.reset();
+    m_global.reset();
 }
 
 void tst_CStepBar::itsOnlyMethodIsItsSignal()
@@ -917,7 +918,7 @@ void tst_CStepBar::arrowsFollowTheDirectionOfText()
     const QStringList turned = pictures();
     pBar->setLayoutDirection(Qt::LeftToRight); // the bar's own
     const QStringList own = pictures();
-    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QApplication::setLayoutDirection(Qt::LeftToRight); // and back again
     QCOMPARE(mirrored, back);
     QCOMPARE(sOther, sBack);
     QCOMPARE(turned, back);
@@ -963,7 +964,7 @@ void tst_CStepBar::aChangeOfTheLayoutsOwnDirectionCounts()
 
 void tst_CStepBar::anUnknownDirectionHasNoArrows()
 {
-    const MessageRecorder quiet; // Qt tells of pictures that it cannot read
+    MessageRecorder log; // Qt tells of pictures that it cannot read
     m_pBar->addStep(abc);
     int nUnknown = QBoxLayout::BottomToTop;
     ++nUnknown;
@@ -972,6 +973,7 @@ void tst_CStepBar::anUnknownDirectionHasNoArrows()
     m_pBar->addStep(QStringLiteral("D"));
     for (int i = 0; i < 4; ++i)
         QVERIFY(!arrow(*m_pBar, i)->renderer()->isValid());
+    QVERIFY(!log.take().isEmpty());
     m_pBar->setDirection(QBoxLayout::RightToLeft);
     for (int i = 0; i < 4; ++i)
         QCOMPARE(picture(arrow(*m_pBar, i)), sBack);
@@ -1369,9 +1371,10 @@ void tst_CStepBar::aPressThatEndsWithDisablingIsNoClick()
     QCOMPARE(reports.count(), 0);
     QCOMPARE(checkedSteps(*m_pBar), QStringLiteral("100"));
     if (byKey) {
+        MessageRecorder log;
         QTest::keyRelease(pBox, Qt::Key_Space);
         // Qt 6 tells of a key that nobody took.
-        const QStringList said = m_pLog->take();
+        const QStringList said = log.take();
         QVERIFY(said.isEmpty() ||
                 said == QStringList(QStringLiteral("warning: Keyboard event not accepted by receiving widget")));
     } else {
@@ -1793,11 +1796,15 @@ void tst_CStepBar::anySequenceOfCallsKeepsTheOrder()
     }
 }
 
+void tst_CStepBar::loadTheSheet() const
+{
+    TestSupport::expectMessage(QtInfoMsg, QStringLiteral("Successfully to load qss File: \"Tessera.qss\""));
+    TesseraGlobal::loadStyleSheet({QStringLiteral("Tessera")}, QString());
+}
+
 void tst_CStepBar::theSheetColoursTheSteps()
 {
-    const SettingsGuard settings;
-    const MessageRecorder quiet;
-    TesseraGlobal::loadStyleSheet({QStringLiteral("Tessera")}, QString());
+    loadTheSheet();
     const QColor current(0x3c, 0x8c, 0x0e);
     const QColor other(0x13, 0x67, 0x96);
     const QColor pressed(0x9f, 0xdc, 0x65);
@@ -1832,9 +1839,7 @@ void tst_CStepBar::theSheetColoursTheSteps()
 
 void tst_CStepBar::theSheetColoursTheStepUnderTheMouse()
 {
-    const SettingsGuard settings;
-    const MessageRecorder quiet;
-    TesseraGlobal::loadStyleSheet({QStringLiteral("Tessera")}, QString());
+    loadTheSheet();
     const QColor hovered(0x61, 0xc3, 0xed);
     show({QStringLiteral("██"), QStringLiteral("███")});
     m_pBar->slotSetCurrentStep(0);
@@ -1883,5 +1888,5 @@ void tst_CStepBar::theSheetHidesTheChecks()
     QCOMPARE(pBox->grab().toImage(), checkedInBlue);
 }
 
-QTEST_MAIN(tst_CStepBar)
+TESSERA_TEST_MAIN(tst_CStepBar)
 #include "tst_CStepBar.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IntegerSpinBoxContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CU16SpinBox.h>
 
@@ -37,5 +38,5 @@ void tst_CU16SpinBox::adaptiveStepsEndAtOneThousand()
     QCOMPARE(box.value(), static_cast<unsigned short>(65535));
 }
 
-QTEST_MAIN(tst_CU16SpinBox)
+TESSERA_TEST_MAIN(tst_CU16SpinBox)
 #include "tst_CU16SpinBox.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IntegerSpinBoxContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CU32SpinBox.h>
 
@@ -56,5 +57,5 @@ void tst_CU32SpinBox::valuesBeyondTheSignedRangeAreWhole()
     QCOMPARE(box.value(), 4194967295U);
 }
 
-QTEST_MAIN(tst_CU32SpinBox)
+TESSERA_TEST_MAIN(tst_CU32SpinBox)
 #include "tst_CU32SpinBox.moc"

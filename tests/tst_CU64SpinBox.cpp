@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IntegerSpinBoxContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CU64SpinBox.h>
 
@@ -126,5 +127,5 @@ void tst_CU64SpinBox::aStepIsExactAtTheEndsOfTheType()
     QCOMPARE(box.value(), expected);
 }
 
-QTEST_MAIN(tst_CU64SpinBox)
+TESSERA_TEST_MAIN(tst_CU64SpinBox)
 #include "tst_CU64SpinBox.moc"

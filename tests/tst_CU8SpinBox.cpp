@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IntegerSpinBoxContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CU8SpinBox.h>
 
@@ -49,5 +50,5 @@ void tst_CU8SpinBox::theHighestValueIsTwoHexadecimalDigits()
     QCOMPARE(box.value(), static_cast<unsigned char>(254));
 }
 
-QTEST_MAIN(tst_CU8SpinBox)
+TESSERA_TEST_MAIN(tst_CU8SpinBox)
 #include "tst_CU8SpinBox.moc"

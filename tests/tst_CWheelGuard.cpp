@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
+
 #include <Tessera/CISpinBox/CU32SpinBox.h>
 #include <Tessera/services/CWheelGuard.h>
 #include <Tessera/widgets/CDataComboBox.h>
@@ -880,5 +882,5 @@ void tst_CWheelGuard::theHostMayDeleteThePageMeanwhile()
     QVERIFY(pPage.isNull());
 }
 
-QTEST_MAIN(tst_CWheelGuard)
+TESSERA_TEST_MAIN(tst_CWheelGuard)
 #include "tst_CWheelGuard.moc"

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CellModels.h"
+#include "support/TestMain.h"
+#include "TestSupport.h"
 
 #include <Tessera/CISpinBox/CU16SpinBox.h>
 #include <Tessera/views/StyledItemDelegate.h>
@@ -22,6 +24,8 @@ using CellModels::CellTable;
 using CellModels::CellTree;
 using nsUI::StyledItemDelegate;
 
+Q_DECLARE_METATYPE(QAbstractItemDelegate::EndEditHint)
+
 namespace {
 
 //! A usable cell of each kind. One value for all of them, so that nothing but the kind changes.
@@ -30,6 +34,17 @@ Answers cellOf(int nKind, int nType = 16)
     const QStringList texts{QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")};
     return {{Qt::UserRole, nKind},        {Qt::EditRole, 1}, {260, texts}, {261, texts},
             {262, QVariantList{0, 1, 2}}, {263, nType}};
+}
+
+/*!
+    Whether nothing was said, or only what Qt 6 says to Enter: the view has closed the editor because its cell has changed,
+    and Enter then closes it once more.
+*/
+bool isSilentOrSecondClose(const QStringList& lines)
+{
+    const QString second = QStringLiteral(
+        "warning: QAbstractItemView::closeEditor called with an editor that does not belong to this view");
+    return lines.isEmpty() || (QT_VERSION >= QT_VERSION_CHECK(6, 0, 0) && lines == QStringList(second));
 }
 
 } // namespace
@@ -43,6 +58,7 @@ class tst_ChangingCells : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qRegisterMetaType<QAbstractItemDelegate::EndEditHint>(); } // a signal spy wants to know it
     void init();
     void cleanup();
 
@@ -238,8 +254,10 @@ void tst_ChangingCells::enterWritesNothingIntoACellThatHasChanged()
     if (auto* const pCombo = qobject_cast<QComboBox*>(pEditor.data()))
         pCombo->hidePopup();
     becomeSilently(toKind, toType);
+    TestSupport::MessageRecorder log;
     QTest::keyClick(pEditor, Qt::Key_Return);
     QTRY_VERIFY(!pEditor);
+    QVERIFY(isSilentOrSecondClose(log.take()));
     QCOMPARE(m_pTable->takeWrites(), QStringList());
 }
 
@@ -272,8 +290,10 @@ void tst_ChangingCells::aCellThatChangesWithItsOwnWriteIsClosed()
         if (m_pTable->cell(1, 1).answers.value(Qt::UserRole) == 6)
             m_pTable->change(1, 1, Qt::UserRole, 7);
     });
+    TestSupport::MessageRecorder log;
     QTest::keyClick(pEditor, Qt::Key_Return);
     QTRY_VERIFY(!pEditor);
+    QVERIFY(isSilentOrSecondClose(log.take()));
     QCOMPARE(m_pTable->takeWrites().size(), 1);
     QCOMPARE(m_pTable->value(1, 1), QVariant::fromValue(ushort(7)));
     QVERIFY(qobject_cast<nsUI::CDSpinBox*>(edit(m_pTable->at(1, 1))));
@@ -484,5 +504,5 @@ void tst_ChangingCells::theDelegateSaysWhichEditorCloses()
     QCOMPARE(m_pTable->takeWrites(), QStringList());
 }
 
-QTEST_MAIN(tst_ChangingCells)
+TESSERA_TEST_MAIN(tst_ChangingCells)
 #include "tst_ChangingCells.moc"

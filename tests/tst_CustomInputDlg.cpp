@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ModalDriver.h"
+#include "support/TestMain.h"
 
 #include <Tessera/widgets/CustomInputDlg.h>
 
@@ -373,5 +374,5 @@ void tst_CustomInputDlg::theFocusGivenToTheButtonsIsTheFirstButtons()
     QCOMPARE(QApplication::focusWidget(), pOk);
 }
 
-QTEST_MAIN(tst_CustomInputDlg)
+TESSERA_TEST_MAIN(tst_CustomInputDlg)
 #include "tst_CustomInputDlg.moc"

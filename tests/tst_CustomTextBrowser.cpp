@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
+
 #include <Tessera/widgets/CustomTextBrowser.h>
 
 #include <QApplication>
@@ -10,7 +13,6 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
-#include <QTranslator>
 #include <QtTest>
 
 #include <climits>
@@ -441,16 +443,11 @@ void tst_CustomTextBrowser::theClearEntryIsOneOfSeveralFlags()
 void tst_CustomTextBrowser::theClearEntryIsTranslated()
 {
     m_pBrowser->setMenuActFlag(clearFlag, true);
-    QTranslator english;
-    QVERIFY(english.load(QStringLiteral(":/qm/Tessera_en.qm")));
-    QVERIFY(QCoreApplication::installTranslator(&english));
+    TestSupport::GlobalState global;
+    QVERIFY(global.install(QStringLiteral(":/qm/Tessera_en.qm")));
     QCOMPARE(menuOf(*m_pBrowser).last(), QStringLiteral("Clear"));
-    QTranslator chinese;
-    QVERIFY(chinese.load(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
-    QVERIFY(QCoreApplication::installTranslator(&chinese));
+    QVERIFY(global.install(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
     const QString sTranslated = menuOf(*m_pBrowser).last(); // even one that was made before
-    QVERIFY(QCoreApplication::removeTranslator(&chinese));
-    QVERIFY(QCoreApplication::removeTranslator(&english));
     QCOMPARE(sTranslated, QStringLiteral("清除"));
 }
 
@@ -539,5 +536,5 @@ void tst_CustomTextBrowser::aBrowserThatCannotBeUsedHasNoMenu()
     QVERIFY(m_pBrowser->findChildren<QMenu*>().isEmpty());
 }
 
-QTEST_MAIN(tst_CustomTextBrowser)
+TESSERA_TEST_MAIN(tst_CustomTextBrowser)
 #include "tst_CustomTextBrowser.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
+
 #include <Tessera/views/DigitsText_p.h>
 
 #include <QElapsedTimer>
@@ -333,5 +335,5 @@ void tst_DigitsText::aRefusalIsShort()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_DigitsText)
+TESSERA_TEST_APPLESS_MAIN(tst_DigitsText)
 #include "tst_DigitsText.moc"

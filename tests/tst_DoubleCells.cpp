@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CellModels.h"
+#include "support/TestMain.h"
 
 #include <Tessera/views/StyledItemDelegate.h>
 #include <Tessera/views/TbView.h>
@@ -578,5 +579,5 @@ void tst_DoubleCells::aModelMayBeDeletedByAWrite()
     QCOMPARE(pBox->value(), 7.0);
 }
 
-QTEST_MAIN(tst_DoubleCells)
+TESSERA_TEST_MAIN(tst_DoubleCells)
 #include "tst_DoubleCells.moc"

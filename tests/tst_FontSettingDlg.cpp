@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ModalDriver.h"
-#include "TestSupport.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 
 #include <CCommon.h>
 #include <Tessera/Tessera.h>
@@ -23,10 +24,11 @@
 #include <QtTest>
 #include <QVBoxLayout>
 
+#include <optional>
+
 using nsUI::FontSettingDlg;
 using nsUI::tagAppFont;
-using TestSupport::MessageRecorder;
-using TestSupport::SettingsGuard;
+using TestSupport::GlobalState;
 
 namespace {
 
@@ -259,20 +261,19 @@ private:
         QVERIFY(QTest::qWaitForWindowActive(m_pDialog.data()));
     }
 
-    QScopedPointer<SettingsGuard> m_pSettings;
+    std::optional<GlobalState> m_global;
     QScopedPointer<FontSettingDlg> m_pDialog;
     QScopedPointer<Parts> m_p;
 };
 
 void tst_FontSettingDlg::initTestCase()
 {
-    const MessageRecorder quiet;
     nsUI::TesseraGlobal::instance();
 }
 
 void tst_FontSettingDlg::init()
 {
-    m_pSettings.reset(new SettingsGuard);
+    m_global.emplace();
     make();
 }
 
@@ -280,7 +281,7 @@ void tst_FontSettingDlg::cleanup()
 {
     m_p.reset();
     m_pDialog.reset();
-    m_pSettings.reset();
+    m_global.reset();
 }
 
 void tst_FontSettingDlg::itDeclaresNothing()
@@ -420,12 +421,10 @@ void tst_FontSettingDlg::itsTextsAreEnglish_data()
 void tst_FontSettingDlg::itsTextsAreEnglish()
 {
     QFETCH(bool, catalogue);
-    QTranslator english;
-    QVERIFY(english.load(QStringLiteral(":/qm/Tessera_en.qm")));
     if (catalogue)
-        QVERIFY(QCoreApplication::installTranslator(&english));
+        QVERIFY(m_global->install(QStringLiteral(":/qm/Tessera_en.qm")));
     make();
-    QCoreApplication::removeTranslator(&english);
+    m_global->removeCatalogues();
     QCOMPARE(m_pDialog->windowTitle(), QStringLiteral("Font Settings"));
     QCOMPARE(m_p->pLabel->text(), QStringLiteral("Font Size:"));
     QCOMPARE(m_p->pItalic->text(), QStringLiteral("Italic"));
@@ -436,11 +435,9 @@ void tst_FontSettingDlg::itsTextsAreEnglish()
 
 void tst_FontSettingDlg::itsTextsAreChineseWithTheCatalogue()
 {
-    QTranslator chinese;
-    QVERIFY(chinese.load(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
-    QVERIFY(QCoreApplication::installTranslator(&chinese));
+    QVERIFY(m_global->install(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
     make();
-    QVERIFY(QCoreApplication::removeTranslator(&chinese));
+    m_global->removeCatalogues();
     QCOMPARE(m_pDialog->windowTitle(), QStringLiteral("字体设置"));
     QCOMPARE(m_p->pLabel->text(), QStringLiteral("字号："));
     QCOMPARE(m_p->pItalic->text(), QStringLiteral("倾斜"));
@@ -1014,5 +1011,5 @@ void tst_FontSettingDlg::theFormerExampleIsHiddenAtOnce()
     QVERIFY(!dialog.button(QDialogButtonBox::Ok)->isEnabled());
 }
 
-QTEST_MAIN(tst_FontSettingDlg)
+TESSERA_TEST_MAIN(tst_FontSettingDlg)
 #include "tst_FontSettingDlg.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
+
 #include <Tessera/CISpinBox/IntegerStep_p.h>
 
 #include <QTest>
@@ -328,5 +330,5 @@ void tst_IntegerStep::aStepIsNotClamped()
     QCOMPARE(IntegerStep::moved(5, 1, -10, 0, 99, true), 95);
 }
 
-QTEST_APPLESS_MAIN(tst_IntegerStep)
+TESSERA_TEST_APPLESS_MAIN(tst_IntegerStep)
 #include "tst_IntegerStep.moc"

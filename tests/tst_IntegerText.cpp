@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
+
 #include <Tessera/CISpinBox/IntegerText_p.h>
 
 #include <CCommon.h>
@@ -362,5 +364,5 @@ void tst_IntegerText::partOfALongerTextCanBeRead()
     QVERIFY(!IntegerText::toValue(QStringView(text).mid(0, 4), 10, &value));
 }
 
-QTEST_APPLESS_MAIN(tst_IntegerText)
+TESSERA_TEST_APPLESS_MAIN(tst_IntegerText)
 #include "tst_IntegerText.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
+
 #include <Tessera/views/ItemRoles.h>
 
 #include <QtTest>
@@ -75,5 +77,5 @@ void tst_ItemRoles::theTypesAreWideEnoughForWhatModelsAnswer()
     QVERIFY((std::is_same_v<std::underlying_type_t<nsUI::e_DSpxOption>, quint64>));
 }
 
-QTEST_GUILESS_MAIN(tst_ItemRoles)
+TESSERA_TEST_GUILESS_MAIN(tst_ItemRoles)
 #include "tst_ItemRoles.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <QCsvDocument.h>
@@ -67,5 +68,5 @@ void tst_MissingPalette::handsOutRandomColoursAllTheSame()
     QVERIFY(TesseraGlobal::instance().getRandColor() != first);
 }
 
-QTEST_MAIN(tst_MissingPalette)
+TESSERA_TEST_MAIN(tst_MissingPalette)
 #include "tst_MissingPalette.moc"

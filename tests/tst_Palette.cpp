@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "TestSupport.h"
+#include "support/TestMain.h"
 
 #include <Tessera/Tessera.h>
 
 #include <QApplication>
 #include <QColor>
 #include <QProcess>
-#include <QScopedPointer>
 #include <QSet>
 #include <QtTest>
 
@@ -15,7 +14,6 @@
 #include <type_traits>
 
 using namespace nsUI;
-using TestSupport::MessageRecorder;
 
 namespace {
 
@@ -46,10 +44,6 @@ class tst_Palette : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void numbersItsFamiliesAndSteps();
     void holdsTheWholeTable_data();
     void holdsTheWholeTable();
@@ -67,27 +61,7 @@ private Q_SLOTS:
     void repeatsTheSameOrderForEver();
     void shufflesTheColours();
     void shufflesAnewInAnotherProcess();
-
-private:
-    QScopedPointer<MessageRecorder> m_pLog;
 };
-
-void tst_Palette::initTestCase()
-{
-    const MessageRecorder quiet;
-    TesseraGlobal::instance();
-}
-
-void tst_Palette::init()
-{
-    m_pLog.reset(new MessageRecorder);
-}
-
-void tst_Palette::cleanup()
-{
-    QCOMPARE(m_pLog->take(), QStringList());
-    m_pLog.reset();
-}
 
 void tst_Palette::numbersItsFamiliesAndSteps()
 {
@@ -303,16 +277,14 @@ void tst_Palette::shufflesAnewInAnotherProcess()
 
 int main(int argc, char* argv[])
 {
-    QApplication app(argc, argv);
     if (argc == 2 && qstrcmp(argv[1], g_printColors) == 0) {
-        const MessageRecorder quiet;
+        const QApplication app(argc, argv);
         for (int n = 0; n < 20; ++n) {
             std::puts(qPrintable(name(TesseraGlobal::instance().getRandColor())));
         }
         return 0;
     }
-    tst_Palette test;
-    return QTest::qExec(&test, argc, argv);
+    return TestSupport::testMain<QApplication, tst_Palette>(argc, argv);
 }
 
 #include "tst_Palette.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <QCsvDocument.h>
@@ -396,5 +397,5 @@ void tst_QCsvDocument::readsManyRows()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_QCsvDocument)
+TESSERA_TEST_GUILESS_MAIN(tst_QCsvDocument)
 #include "tst_QCsvDocument.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <Tessera/CISpinBox/CI16SpinBox.h>
@@ -107,10 +108,6 @@ class tst_SpinBoxFactory : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void typeCodesAreWidthsWithASign();
 
     void makesTheClassOfTheTypeCode_data();
@@ -159,27 +156,7 @@ private Q_SLOTS:
     void leavesTheSelectionAsItWasOtherwise();
     void survivesASlotThatDeletesTheEditor_data();
     void survivesASlotThatDeletesTheEditor();
-
-private:
-    QScopedPointer<MessageRecorder> m_pLog;
 };
-
-void tst_SpinBoxFactory::initTestCase()
-{
-    const MessageRecorder quiet;
-    TesseraGlobal::instance();
-}
-
-void tst_SpinBoxFactory::init()
-{
-    m_pLog.reset(new MessageRecorder);
-}
-
-void tst_SpinBoxFactory::cleanup()
-{
-    QCOMPARE(m_pLog->take(), QStringList());
-    m_pLog.reset();
-}
 
 void tst_SpinBoxFactory::typeCodesAreWidthsWithASign()
 {
@@ -474,22 +451,23 @@ void tst_SpinBoxFactory::warnsOfABaseThatTheBoxDoesNotTake()
     QFETCH(const QVariant, base);
     QFETCH(const int, read);
     QWidget parent;
+    TestSupport::expectMessage(QtWarningMsg,
+                               QStringLiteral("CU16SpinBox::setDisplayIntegerBase: Invalid base (%1)").arg(read));
     const CU16SpinBox* const pBox = make<CU16SpinBox>(&parent, {{TypeRole, 16}, {BaseRole, base}});
     QVERIFY(pBox);
     QCOMPARE(pBox->displayIntegerBase(), 10);
-    QCOMPARE(m_pLog->take(),
-             QStringList{QStringLiteral("warning: CU16SpinBox::setDisplayIntegerBase: Invalid base (%1)").arg(read)});
 }
 
 void tst_SpinBoxFactory::logsNothingElse()
 {
+    MessageRecorder log;
     QWidget parent;
     QWidget* const pBox = TesseraGlobal::ISP_create(
         &parent, {{TypeRole, QStringLiteral("x")}, {MinimumRole, QStringLiteral("x")}, {MaximumRole, 5}});
     TesseraGlobal::ISP_setData(pBox, e_ISpx_I32, QStringLiteral("x"), true);
     TesseraGlobal::ISP_setData(nullptr, e_ISpx_I32, 1, true);
     TesseraGlobal::ISP_getData(nullptr, e_ISpx_I32);
-    QCOMPARE(m_pLog->take(), QStringList());
+    QCOMPARE(log.take(), QStringList());
 }
 
 void tst_SpinBoxFactory::givesTheBoxAToolTipThatFollowsItsText_data()
@@ -757,5 +735,5 @@ void tst_SpinBoxFactory::survivesASlotThatDeletesTheEditor()
     delete pParent.data();
 }
 
-QTEST_MAIN(tst_SpinBoxFactory)
+TESSERA_TEST_MAIN(tst_SpinBoxFactory)
 #include "tst_SpinBoxFactory.moc"

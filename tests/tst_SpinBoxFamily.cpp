@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <Tessera/CISpinBox/CI16SpinBox.h>
@@ -358,5 +359,5 @@ void tst_SpinBoxFamily::sourcesOfBothSignednessesDifferInTheSignOnly()
     QCOMPARE(fromFirstDifference(source, expected), fromFirstDifference(expected, source));
 }
 
-QTEST_MAIN(tst_SpinBoxFamily)
+TESSERA_TEST_MAIN(tst_SpinBoxFamily)
 #include "tst_SpinBoxFamily.moc"

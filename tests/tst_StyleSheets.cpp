@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <CCommon.h>
@@ -14,13 +15,14 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <optional>
 
 using nsUI::tagAppFont;
 using nsUI::TesseraGlobal;
 using TestSupport::contentOf;
+using TestSupport::GlobalState;
 using TestSupport::HostResources;
 using TestSupport::MessageRecorder;
-using TestSupport::SettingsGuard;
 
 namespace {
 
@@ -131,21 +133,19 @@ private Q_SLOTS:
 
 private:
     QScopedPointer<MessageRecorder> m_pLog;
-    QScopedPointer<SettingsGuard> m_pSettings;
+    std::optional<GlobalState> m_global;
 };
 
 void tst_StyleSheets::init()
 {
-    m_pSettings.reset(new SettingsGuard);
+    m_global.emplace();
     m_pLog.reset(new MessageRecorder);
 }
 
 void tst_StyleSheets::cleanup()
 {
-    qApp->setStyleSheet(QString());
-    QCOMPARE(m_pLog->take(), QStringList());
-    m_pLog.reset();
-    m_pSettings.reset();
+    m_pLog.reset(); // hands on what no test has looked at
+    m_global.reset();
 }
 
 void tst_StyleSheets::needsNoGlobalObject()
@@ -183,7 +183,6 @@ void tst_StyleSheets::takesNullAndEmptyForTheResourceFolder()
     QVERIFY(sheet.open(QIODevice::WriteOnly));
     sheet.write("QLabel { color: red; }\n");
     sheet.close();
-    const QString sBefore = QDir::currentPath();
     QVERIFY(QDir::setCurrent(folder.path()));
     QStringList log;
     QStringList sheets;
@@ -193,7 +192,6 @@ void tst_StyleSheets::takesNullAndEmptyForTheResourceFolder()
         log << m_pLog->take();
         sheets << qApp->styleSheet();
     }
-    QVERIFY(QDir::setCurrent(sBefore));
     const QString sSheet = sDefaultRule + contents({QStringLiteral("Tessera.qss")});
     QCOMPARE(sheets, (QStringList{sSheet, sSheet}));
     const QStringList once{missLine({QStringLiteral("local.qss")}), loadedLine({QStringLiteral("Tessera.qss")})};
@@ -536,5 +534,5 @@ void tst_StyleSheets::changesNothingForAnotherFolder()
     QVERIFY(!QSettings().childGroups().contains(QStringLiteral("AppFont")));
 }
 
-QTEST_MAIN(tst_StyleSheets)
+TESSERA_TEST_MAIN(tst_StyleSheets)
 #include "tst_StyleSheets.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ItemModelContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/views/TbModel.h>
 
@@ -33,5 +34,5 @@ void tst_TbModel::itPassesItsParentOn()
     QCOMPARE(CellModels::CellTable(1, 1).QObject::parent(), nullptr);
 }
 
-QTEST_MAIN(tst_TbModel)
+TESSERA_TEST_MAIN(tst_TbModel)
 #include "tst_TbModel.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ItemKeyContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/views/TbView.h>
 
@@ -29,5 +30,5 @@ void tst_TbView::itsHeadersAreThoseOfQtsTable()
     QCOMPARE(view.horizontalHeader()->stretchLastSection(), qtView.horizontalHeader()->stretchLastSection());
 }
 
-QTEST_MAIN(tst_TbView)
+TESSERA_TEST_MAIN(tst_TbView)
 #include "tst_TbView.moc"

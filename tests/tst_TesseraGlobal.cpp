@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <Tessera/Tessera.h>
@@ -9,7 +10,6 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QResource>
-#include <QScopedPointer>
 #include <QtEndian>
 #include <QTranslator>
 #include <QtTest>
@@ -118,8 +118,6 @@ class tst_TesseraGlobal : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void init();
-    void cleanup();
 
     void bundleIsThereBeforeTheProgramStarts();
     void bundleHoldsFourFilesOfExactSizes_data();
@@ -144,7 +142,6 @@ private Q_SLOTS:
     void translatesOnceTheHostInstallsACatalogue();
 
 private:
-    QScopedPointer<MessageRecorder> m_pLog;
     std::vector<TesseraGlobal*> m_raced;
     QVector<LogLine> m_creationLog;
     QStringList m_familiesBefore;
@@ -174,17 +171,6 @@ void tst_TesseraGlobal::initTestCase()
         thread.join();
     }
     m_creationLog = recorder.takeLines();
-}
-
-void tst_TesseraGlobal::init()
-{
-    m_pLog.reset(new MessageRecorder);
-}
-
-void tst_TesseraGlobal::cleanup()
-{
-    QCOMPARE(m_pLog->take(), QStringList());
-    m_pLog.reset();
 }
 
 void tst_TesseraGlobal::bundleIsThereBeforeTheProgramStarts()
@@ -314,11 +300,12 @@ void tst_TesseraGlobal::logsWithItsPlaceInTheSources()
 
 void tst_TesseraGlobal::everyCallReturnsTheSameObject()
 {
+    MessageRecorder log;
     TesseraGlobal& first = TesseraGlobal::instance();
     TesseraGlobal& second = TesseraGlobal::instance();
     QCOMPARE(&first, &second);
     QCOMPARE(&first, m_raced.front());
-    QCOMPARE(m_pLog->take(), QStringList());
+    QCOMPARE(log.take(), QStringList());
 }
 
 void tst_TesseraGlobal::creationInstallsNoTranslatorFontOrStyleSheet()
@@ -399,14 +386,13 @@ void tst_TesseraGlobal::cataloguesNameNoLanguage()
 
 void tst_TesseraGlobal::translatesOnceTheHostInstallsACatalogue()
 {
-    QTranslator translator;
-    QVERIFY(translator.load(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    TestSupport::GlobalState global;
+    QVERIFY(global.install(QStringLiteral(":/qm/Tessera_zh_CN.qm")));
     const QString sTrue = QCoreApplication::translate("Translator", "True");
-    QCoreApplication::removeTranslator(&translator);
+    global.removeCatalogues();
     QCOMPARE(sTrue, QStringLiteral("是"));
     QCOMPARE(QCoreApplication::translate("Translator", "True"), QStringLiteral("True"));
 }
 
-QTEST_MAIN(tst_TesseraGlobal)
+TESSERA_TEST_MAIN(tst_TesseraGlobal)
 #include "tst_TesseraGlobal.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ItemModelContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/views/TrModel.h>
 
@@ -43,5 +44,5 @@ void tst_TrModel::aBranchIsACellAsAnyOther()
     QCOMPARE(int(tree.flags(tree.branch(1, 1))), 35);
 }
 
-QTEST_MAIN(tst_TrModel)
+TESSERA_TEST_MAIN(tst_TrModel)
 #include "tst_TrModel.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ItemKeyContract.h"
+#include "support/TestMain.h"
 
 #include <Tessera/views/TrView.h>
 
@@ -36,5 +37,5 @@ void tst_TrView::aBranchIsClickedAsAnyOtherCell()
     QCOMPARE(tree.branch(1, 1).data().toString(), QStringLiteral("False"));
 }
 
-QTEST_MAIN(tst_TrView)
+TESSERA_TEST_MAIN(tst_TrView)
 #include "tst_TrView.moc"

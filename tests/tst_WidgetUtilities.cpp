@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "TestSupport.h"
+#include "support/TestMain.h"
 
 #include <Tessera/CISpinBox/CI16SpinBox.h>
 #include <Tessera/CISpinBox/CI32SpinBox.h>
@@ -40,7 +40,6 @@
 #include <type_traits>
 
 using namespace nsUI;
-using TestSupport::MessageRecorder;
 
 namespace {
 
@@ -164,10 +163,6 @@ class tst_WidgetUtilities : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void setsTheTextAsToolTip_data();
     void setsTheTextAsToolTip();
     void followsChangesOfTrackedClassesOnly_data();
@@ -218,27 +213,7 @@ private Q_SLOTS:
     void appendsBehindWhatIsThere();
     void interpretsMarkupInTheText_data();
     void interpretsMarkupInTheText();
-
-private:
-    QScopedPointer<MessageRecorder> m_pLog;
 };
-
-void tst_WidgetUtilities::initTestCase()
-{
-    const MessageRecorder quiet;
-    TesseraGlobal::instance();
-}
-
-void tst_WidgetUtilities::init()
-{
-    m_pLog.reset(new MessageRecorder);
-}
-
-void tst_WidgetUtilities::cleanup()
-{
-    QCOMPARE(m_pLog->take(), QStringList());
-    m_pLog.reset();
-}
 
 void tst_WidgetUtilities::setsTheTextAsToolTip_data()
 {
@@ -905,5 +880,5 @@ void tst_WidgetUtilities::interpretsMarkupInTheText()
     QCOMPARE(browser.toHtml(), reference.toHtml());
 }
 
-QTEST_MAIN(tst_WidgetUtilities)
+TESSERA_TEST_MAIN(tst_WidgetUtilities)
 #include "tst_WidgetUtilities.moc"

@@ -1,8 +1,9 @@
 # The tests of the item views and of the dialogs that they open.
 
 tessera_test(tst_ItemRoles)
-tessera_test(tst_TbModel SOURCES CellModels.h ItemModelContract.h)
-tessera_test(tst_TrModel SOURCES CellModels.h ItemModelContract.h)
+tessera_test_contract(ItemModelContract)
+tessera_test(tst_TbModel LIBRARIES ItemModelContract SOURCES CellModels.h)
+tessera_test(tst_TrModel LIBRARIES ItemModelContract SOURCES CellModels.h)
 tessera_test(tst_StyledItemDelegate LIBRARIES Qt${TESSERA_QT}::${TESSERA_SVG_WIDGETS} SOURCES CellModels.h TestSupport.h data/pictures.qrc)
 set_target_properties(tst_StyledItemDelegate PROPERTIES AUTORCC ON)
 tessera_test(tst_ChangingCells SOURCES CellModels.h)
@@ -19,5 +20,6 @@ tessera_test(tst_DigitsText LIBRARIES ${TESSERA_TEST_HOST} SOURCES
 tessera_test(tst_CDigitsEdit)
 tessera_test(tst_CBitDialog SOURCES ModalDriver.h)
 tessera_test(tst_CPenDialog SOURCES ModalDriver.h)
-tessera_test(tst_TbView SOURCES CellModels.h ItemKeyContract.h ItemViewContract.h ModalDriver.h)
-tessera_test(tst_TrView SOURCES CellModels.h ItemKeyContract.h ItemViewContract.h ModalDriver.h)
+tessera_test_contract(ItemKeyContract ItemViewContract.h)
+tessera_test(tst_TbView LIBRARIES ItemKeyContract SOURCES CellModels.h ModalDriver.h)
+tessera_test(tst_TrView LIBRARIES ItemKeyContract SOURCES CellModels.h ModalDriver.h)

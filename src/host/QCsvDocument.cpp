@@ -79,6 +79,8 @@ bool QCsvDocument::loadFile(const QString& sPath, QTextCodec* pCodec)
     if (!isAscii(m_tConf.cSeparator) || !isAscii(m_tConf.cQuote))
         return false;
 
+    if (sPath.isEmpty()) // QFile refuses it too, but warns
+        return false;
     QFile file(sPath);
     if (!file.open(QIODevice::ReadOnly))
         return false;

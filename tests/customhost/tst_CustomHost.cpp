@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <CCommon.h>
@@ -12,6 +13,7 @@
 #include <QtTest>
 
 #include <limits>
+#include <optional>
 
 using namespace nsUI;
 using TestSupport::LogLine;
@@ -34,12 +36,12 @@ private Q_SLOTS:
 private:
     QVector<LogLine> m_creation;
     QTemporaryDir m_folder;
-    QString m_sFolderBefore;
+    std::optional<TestSupport::GlobalState> m_global;
 };
 
 void tst_CustomHost::initTestCase()
 {
-    m_sFolderBefore = QDir::currentPath();
+    m_global.emplace();
     QVERIFY(QDir::setCurrent(m_folder.path()));
     MessageRecorder recorder;
     TesseraGlobal::instance();
@@ -48,7 +50,7 @@ void tst_CustomHost::initTestCase()
 
 void tst_CustomHost::cleanupTestCase()
 {
-    QVERIFY(QDir::setCurrent(m_sFolderBefore));
+    m_global.reset();
 }
 
 void tst_CustomHost::logsTheColourTableBeforeTheCreationBegins()
@@ -111,11 +113,11 @@ void tst_CustomHost::takesSettingsFromTheHost()
     QCOMPARE(host.m_sLastName, QString());
 
     host.getSettings(QString())->setValue(QStringLiteral("Setting_AppFont/PointSize"), 32);
-    const MessageRecorder quiet;
+    TestSupport::expectMessage(QtInfoMsg, QStringLiteral("Unused qss File: \"Tessera.qss\""));
     TesseraGlobal::loadStyleSheet({}, QString());
     QVERIFY(qApp->styleSheet().contains(QLatin1String("font-size:32pt;")));
     QCOMPARE(host.getSettings(QString())->value(QStringLiteral("AppFont/PointSize")).toInt(), 32);
 }
 
-QTEST_MAIN(tst_CustomHost)
+TESSERA_TEST_MAIN(tst_CustomHost)
 #include "tst_CustomHost.moc"

@@ -14,6 +14,7 @@
 #include "pages/Pages.h"
 #include "samples/CellTable.h"
 #include "samples/CellTree.h"
+#include "support/TestMain.h"
 #include "TestSupport.h"
 
 #include <Tessera/Tessera.h>
@@ -48,6 +49,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <optional>
 
 using namespace gallery;
 
@@ -253,16 +255,18 @@ private Q_SLOTS:
     void theProgramTellsAboutItself();
 
 private:
-    std::unique_ptr<TestSupport::SettingsGuard> m_settings;
-    std::unique_ptr<TestSupport::MessageRecorder> m_log;
+    std::optional<TestSupport::GlobalState> m_global;
     std::unique_ptr<Host> m_host;
     QTemporaryDir m_folder;
 };
 
 void tst_Gallery::initTestCase()
 {
-    m_log = std::make_unique<TestSupport::MessageRecorder>();
-    m_settings = std::make_unique<TestSupport::SettingsGuard>();
+    m_global.emplace();
+    // The gallery changes sheets all the time, and the library tells of each change; and of the fonts, where there are some.
+    TestSupport::allowMessages(QtInfoMsg,
+                               QRegularExpression(QStringLiteral("^(Successfully to load|Unused) qss File: ")));
+    TestSupport::allowMessages(QtDebugMsg, QRegularExpression(QStringLiteral("QFileInfo\\(:/ttf/.*\\.ttf\\)")));
     QCoreApplication::setApplicationName(QStringLiteral("tessera-gallery"));
     QCoreApplication::setApplicationVersion(QStringLiteral("9.8.7"));
     m_host = std::make_unique<Host>(Look());
@@ -275,14 +279,12 @@ void tst_Gallery::init()
     m_host->setShade(usual.shade);
     m_host->setSheet(usual.sheet);
     m_host->setDirection(usual.direction);
-    m_log->take();
 }
 
 void tst_Gallery::cleanupTestCase()
 {
     m_host.reset();
-    m_settings.reset();
-    m_log.reset();
+    m_global.reset();
 }
 
 void tst_Gallery::nothingOpensTheFirstPage()
@@ -401,7 +403,7 @@ void tst_Gallery::aPageBuildsWhole()
     QFETCH(QString, page);
     QFETCH(bool, inChinese);
     m_host->setLanguage(inChinese ? Language::Chinese : Language::English);
-    m_log->take();
+    TestSupport::MessageRecorder log;
     const auto window = shownWindow(page);
     QVERIFY(window->currentPage());
     const QVector<Card*>& cards = window->currentPage()->cards();
@@ -412,7 +414,7 @@ void tst_Gallery::aPageBuildsWhole()
         QVERIFY2(!QTextDocumentFragment::fromHtml(code->text()).toPlainText().trimmed().isEmpty(),
                  qPrintable(card->title()));
     }
-    QCOMPARE(m_log->take(), QStringList());
+    QCOMPARE(log.take(), QStringList());
 }
 
 void tst_Gallery::everyTextIsTranslated_data()
@@ -454,6 +456,7 @@ void tst_Gallery::noTextIsClipped()
     QFETCH(QString, page);
     QFETCH(bool, inChinese);
     m_host->setLanguage(inChinese ? Language::Chinese : Language::English);
+    TestSupport::MessageRecorder log;
     const auto window = shownWindow(page);
     QCOMPARE(clippedTexts(window.get()), QStringList());
     QCOMPARE(window->currentPage()->horizontalScrollBar()->maximum(), 0);
@@ -469,6 +472,7 @@ void tst_Gallery::mnemonicsAreUnique()
     QFETCH(QString, page);
     QFETCH(bool, inChinese);
     m_host->setLanguage(inChinese ? Language::Chinese : Language::English);
+    TestSupport::MessageRecorder log;
     const auto window = shownWindow(page);
     const QString letters = mnemonics(window.get());
     QVERIFY(letters.size() >= 5); // those of the tool bar
@@ -911,6 +915,6 @@ void tst_Gallery::theProgramTellsAboutItself()
     QVERIFY(version.output().startsWith(QStringLiteral("tessera-gallery ")));
 }
 
-QTEST_MAIN(tst_Gallery)
+TESSERA_TEST_MAIN(tst_Gallery)
 
 #include "tst_gallery.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 
 #include <QDir>
@@ -525,5 +526,5 @@ void tst_CommandLine::aWrongCallWritesNothing()
              (QStringList{QStringLiteral("device.svd"), QStringLiteral("out.json")}));
 }
 
-QTEST_GUILESS_MAIN(tst_CommandLine)
+TESSERA_TEST_GUILESS_MAIN(tst_CommandLine)
 #include "tst_commandline.moc"

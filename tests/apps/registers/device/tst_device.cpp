@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 
 #include <QTest>
@@ -302,5 +303,5 @@ void tst_Device::anAddressFindsTheRegisterThatCoversIt()
     QCOMPARE(device.findAddress(~quint64(0)), 3);
 }
 
-QTEST_GUILESS_MAIN(tst_Device)
+TESSERA_TEST_GUILESS_MAIN(tst_Device)
 #include "tst_device.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "device/DeviceExport.h"
 #include "device/DeviceState.h"
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 #include "text/Numbers.h"
 
@@ -259,5 +260,5 @@ void tst_DeviceExport::severalFilesAreWrittenTogetherOrNotAtAll()
     QCOMPARE(entries(dir), (QStringList{QStringLiteral("good"), QStringLiteral("other")}));
 }
 
-QTEST_GUILESS_MAIN(tst_DeviceExport)
+TESSERA_TEST_GUILESS_MAIN(tst_DeviceExport)
 #include "tst_deviceexport.moc"

@@ -2,6 +2,7 @@
 #include "CommandLine.h"
 #include "device/DeviceExport.h"
 #include "device/DeviceImport.h"
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 #include "text/Numbers.h"
 
@@ -424,5 +425,5 @@ void tst_DeviceImport::aLargeFileIsReadFast()
     QVERIFY2(duration < 10'000, qPrintable(QString::number(duration))); // about 200 ms, without a sanitizer
 }
 
-QTEST_GUILESS_MAIN(tst_DeviceImport)
+TESSERA_TEST_GUILESS_MAIN(tst_DeviceImport)
 #include "tst_deviceimport.moc"

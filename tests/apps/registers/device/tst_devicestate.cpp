@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "device/DeviceState.h"
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 
 #include <QSignalSpy>
@@ -152,5 +153,5 @@ void tst_DeviceState::allBitsOf64AreKept()
     QCOMPARE(state.fieldValue(1, 0), quint64(0x8000000000000001));
 }
 
-QTEST_GUILESS_MAIN(tst_DeviceState)
+TESSERA_TEST_GUILESS_MAIN(tst_DeviceState)
 #include "tst_devicestate.moc"

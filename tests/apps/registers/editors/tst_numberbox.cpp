@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GuiTestSupport.h"
+#include "support/TestMain.h"
 
 #include "editors/NumberBox.h"
 
@@ -281,5 +282,5 @@ void tst_NumberBox::anotherBaseShowsTheSameValue()
     QCOMPARE(stage.edited.count(), 0);
 }
 
-QTEST_MAIN(tst_NumberBox)
+TESSERA_TEST_MAIN(tst_NumberBox)
 #include "tst_numberbox.moc"

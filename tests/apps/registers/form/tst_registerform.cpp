@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GuiTestSupport.h"
+#include "support/TestMain.h"
 
 #include "editors/BitStrip.h"
 #include "editors/EnumBox.h"
@@ -546,5 +547,5 @@ void tst_RegisterForm::edgesOfOtherRegistersAreLeftAlone()
     QCOMPARE(stage.state.value(1), quint64(0xFFFFFFFF));
 }
 
-QTEST_MAIN(tst_RegisterForm)
+TESSERA_TEST_MAIN(tst_RegisterForm)
 #include "tst_registerform.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GuiTestSupport.h"
+#include "support/TestMain.h"
 
 #include "session/DeviceEdits.h"
 
@@ -204,5 +205,5 @@ void tst_DeviceEdits::editsNameTheirTarget()
     QVERIFY(m_edits->history().undoText().endsWith(QStringLiteral("BLOCK.SECOND")));
 }
 
-QTEST_GUILESS_MAIN(tst_DeviceEdits)
+TESSERA_TEST_GUILESS_MAIN(tst_DeviceEdits)
 #include "tst_deviceedits.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 
 #include <QTest>
@@ -431,5 +432,5 @@ void tst_SvdDerive::whatIsTakenIsWhatTheBaseHolds()
     QCOMPARE(d.registerAt(d.findRegister(QStringLiteral("B.S"))).resetValue, quint64(1));
 }
 
-QTEST_GUILESS_MAIN(tst_SvdDerive)
+TESSERA_TEST_GUILESS_MAIN(tst_SvdDerive)
 #include "tst_svdderive.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 
 #include <QByteArrayList>
@@ -379,5 +380,5 @@ void tst_SvdErrors::damageNeverCrashes()
     QVERIFY(readable > 0 && readable < 300);
 }
 
-QTEST_GUILESS_MAIN(tst_SvdErrors)
+TESSERA_TEST_GUILESS_MAIN(tst_SvdErrors)
 #include "tst_svderrors.moc"

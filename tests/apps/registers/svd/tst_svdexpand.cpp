@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 
 #include <QTest>
@@ -204,5 +205,5 @@ void tst_SvdExpand::manyRegistersAreFine()
     QCOMPARE(result.device->findRegister(QStringLiteral("P.R9999")), 9999);
 }
 
-QTEST_GUILESS_MAIN(tst_SvdExpand)
+TESSERA_TEST_GUILESS_MAIN(tst_SvdExpand)
 #include "tst_svdexpand.moc"

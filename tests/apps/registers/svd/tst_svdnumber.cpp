@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "support/TestMain.h"
 #include "svd/SvdNumber.h"
 #include "text/Numbers.h"
 
 #include <QTest>
 
 #include <limits>
+#include <optional>
 
 using namespace registers;
 
@@ -231,5 +233,5 @@ void tst_SvdNumber::whatIsNoTypedNumberIsRefused()
     QVERIFY(!parsePlainNumber(text).has_value());
 }
 
-QTEST_GUILESS_MAIN(tst_SvdNumber)
+TESSERA_TEST_GUILESS_MAIN(tst_SvdNumber)
 #include "tst_svdnumber.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 
 #include <QTemporaryDir>
@@ -613,5 +614,5 @@ void tst_SvdReader::progressIsToldOften()
     QVERIFY(calls > 100);
 }
 
-QTEST_GUILESS_MAIN(tst_SvdReader)
+TESSERA_TEST_GUILESS_MAIN(tst_SvdReader)
 #include "tst_svdreader.moc"

@@ -2,6 +2,7 @@
 
 // What vendors' files contain although the schema has it otherwise, and what can be meant by it in one way only.
 
+#include "support/TestMain.h"
 #include "SvdTestSupport.h"
 
 #include <QtTest>
@@ -209,6 +210,6 @@ void tst_SvdVendors::ownNamesForBothReplaceTheBasesForReading()
     QCOMPARE(nameOfOne(fieldOf(result, "P.R.G")), QStringLiteral("Own"));
 }
 
-QTEST_GUILESS_MAIN(tst_SvdVendors)
+TESSERA_TEST_GUILESS_MAIN(tst_SvdVendors)
 
 #include "tst_svdvendors.moc"

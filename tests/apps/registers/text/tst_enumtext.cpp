@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GuiTestSupport.h"
+#include "support/TestMain.h"
 
 #include "text/EnumText.h"
 
@@ -135,5 +136,5 @@ void tst_EnumText::entriesBeyondTheFieldCannotBeChosen()
     QVERIFY(!text.value(QStringLiteral("WIDE"), 0));
 }
 
-QTEST_MAIN(tst_EnumText)
+TESSERA_TEST_MAIN(tst_EnumText)
 #include "tst_enumtext.moc"

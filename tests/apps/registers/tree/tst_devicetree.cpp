@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GuiTestSupport.h"
+#include "support/TestMain.h"
 
 #include "editors/RegisterBits.h"
 #include "session/DeviceEdits.h"
@@ -602,5 +603,5 @@ void tst_DeviceTree::theModelsKeepTheirPromises()
     QCOMPARE(m_filter->rowCount(), 1);
 }
 
-QTEST_MAIN(tst_DeviceTree)
+TESSERA_TEST_MAIN(tst_DeviceTree)
 #include "tst_devicetree.moc"

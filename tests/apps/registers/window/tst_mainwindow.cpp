@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GuiTestSupport.h"
+#include "support/TestMain.h"
 
 #include "editors/NumberBox.h"
 #include "form/FormView.h"
@@ -553,10 +554,5 @@ void tst_MainWindow::tenThousandRegistersAreQuick()
     QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
 }
 
-int main(int argc, char* argv[])
-{
-    QApplication app(argc, argv);
-    tst_MainWindow test;
-    return QTest::qExec(&test, argc, argv);
-}
+TESSERA_TEST_MAIN(tst_MainWindow)
 #include "tst_mainwindow.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GuiTestSupport.h"
 #include "ModalDriver.h"
+#include "support/TestMain.h"
 
 #include "device/DeviceExport.h"
 #include "editors/NumberBox.h"
@@ -735,5 +736,5 @@ void tst_TreeEditing::anotherDeviceForgetsTheHistory()
     QCOMPARE(state().value(Data), quint64(0));
 }
 
-QTEST_MAIN(tst_TreeEditing)
+TESSERA_TEST_MAIN(tst_TreeEditing)
 #include "tst_treeediting.moc"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "GuiTestSupport.h"
 #include "ModalDriver.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 
 #include "form/FormView.h"
 #include "form/RegisterForm.h"
@@ -28,6 +30,7 @@
 #include <QSvgWidget>
 
 #include <memory>
+#include <optional>
 
 using namespace GuiTestSupport;
 
@@ -58,12 +61,12 @@ private:
 
     std::unique_ptr<MainWindow> m_window;
     WorkSteps* m_steps = nullptr;
-    QFont m_font;
+    std::optional<TestSupport::GlobalState> m_global;
 };
 
 void tst_WindowDialogs::init()
 {
-    m_font = QApplication::font();
+    m_global.emplace();
     m_window = std::make_unique<MainWindow>();
     const DevicePtr device = makeDevice({makeRegister(QStringLiteral("A"), 32), makeRegister(QStringLiteral("B"), 64)});
     m_window->setSession({device, std::make_unique<DeviceState>(device), {}});
@@ -74,8 +77,7 @@ void tst_WindowDialogs::init()
 void tst_WindowDialogs::cleanup()
 {
     m_window.reset();
-    CCommon::instance().getSettings(QString())->remove(QStringLiteral("Setting_AppFont"));
-    QApplication::setFont(m_font);
+    m_global.reset();
 }
 
 void tst_WindowDialogs::clickStep(WorkSteps::Step which) const
@@ -171,12 +173,13 @@ void tst_WindowDialogs::theChosenFontIsUsedAndKept()
         dialog.findChild<QSpinBox*>(QStringLiteral("pISpxSize"))->setValue(17);
         dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
     });
+    const QFont before = QApplication::font();
     action("font")->trigger();
     QVERIFY(driver.hasActed());
     QCOMPARE(QApplication::font().pointSize(), 17);
     QVERIFY(Settings().chosenFont());
     QCOMPARE(Settings().chosenFont()->pointSize(), 17);
-    QApplication::setFont(m_font);
+    QApplication::setFont(before);
     useChosenFont(); // as the next run does
     QCOMPARE(QApplication::font().pointSize(), 17);
 }
@@ -187,9 +190,10 @@ void tst_WindowDialogs::aCancelledFontChangesNothing()
         dialog.findChild<QSpinBox*>(QStringLiteral("pISpxSize"))->setValue(17);
         dialog.reject();
     });
+    const QFont before = QApplication::font();
     action("font")->trigger();
     QVERIFY(driver.hasActed());
-    QCOMPARE(QApplication::font(), m_font);
+    QCOMPARE(QApplication::font(), before);
     QVERIFY(!Settings().chosenFont());
 }
 
@@ -233,5 +237,5 @@ void tst_WindowDialogs::theFormIsNeverNarrowerThanItsContent()
     QCOMPARE(view->horizontalScrollBar()->maximum(), 0);
 }
 
-QTEST_MAIN(tst_WindowDialogs)
+TESSERA_TEST_MAIN(tst_WindowDialogs)
 #include "tst_windowdialogs.moc"
