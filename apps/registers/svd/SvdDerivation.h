@@ -20,7 +20,7 @@ constexpr qint32 kNoBase = -1;
 ///
 /// @p baseOf gives the base of an element, kNoBase, or nothing after a problem. @p merge takes an element and
 /// its base (or kNoBase) and returns false after a problem. @p cycle is told of the element whose base derives
-/// from the element itself. Returns false after a problem.
+/// from the element itself, and which therefore counts as having none. Returns false after a problem.
 template <typename BaseOf, typename Merge, typename Cycle>
 bool followDerivation(qint32 id, SvdDerivationStates* states, BaseOf baseOf, Merge merge, Cycle cycle)
 {
@@ -29,7 +29,8 @@ bool followDerivation(qint32 id, SvdDerivationStates* states, BaseOf baseOf, Mer
     while (at != kNoBase && (*states)[size_t(at)] != SvdDerivationState::Done) {
         if ((*states)[size_t(at)] == SvdDerivationState::Busy) {
             cycle(chain.empty() ? at : chain.back());
-            return false;
+            at = kNoBase;
+            break;
         }
         (*states)[size_t(at)] = SvdDerivationState::Busy;
         chain.push_back(at);

@@ -53,7 +53,8 @@ struct RawDim
     std::optional<quint64> count;
     std::optional<quint64> increment;
     QString index;
-    SvdPosition position;
+    SvdPosition position;      ///< of <dim>, or without one of what stands for it
+    SvdPosition indexPosition; ///< of <dimIndex>
 };
 
 enum class RawUsage : quint8 { Read, Write, ReadWrite };
@@ -90,6 +91,7 @@ struct RawField
     RawRange inheritedEnumerations; ///< those of the field that this one derives from
     std::optional<Access> access;
     bool hasReadAction = false;
+    bool isLeftOut = false; ///< it makes no sense, and is not shown
 };
 
 /// A peripheral, a cluster or a register.
@@ -108,7 +110,21 @@ struct RawNode
     RawRange fields;    ///< into SvdDescription::fieldIds
     NodeKind kind = NodeKind::Register;
     bool hasReadAction = false;
+    bool isLeftOut = false; ///< it makes no sense, and is not shown, with all that stands in it
 };
+
+/// The name of the elements of a kind.
+inline QLatin1String elementName(NodeKind kind)
+{
+    switch (kind) {
+    case NodeKind::Peripheral:
+        return QLatin1String("peripheral");
+    case NodeKind::Cluster:
+        return QLatin1String("cluster");
+    default:
+        return QLatin1String("register");
+    }
+}
 
 struct SvdDescription
 {

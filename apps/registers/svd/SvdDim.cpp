@@ -39,37 +39,46 @@ bool isListItem(const QString& text)
 
 } // namespace
 
-std::optional<SvdDimIndices> SvdDimIndices::of(const RawDim& dim, QString* problem)
+SvdDimIndices SvdDimIndices::numbers(quint64 count)
 {
-    if (!dim.count) {
-        *problem = QStringLiteral("there is no <dim>, and one was expected beside <dimIncrement> and <dimIndex>");
+    SvdDimIndices numbers;
+    numbers.m_count = count;
+    return numbers;
+}
+
+std::optional<SvdDimIndices> SvdDimIndices::of(const RawDim& dim, SvdDimProblem* problem)
+{
+    const quint64 count = dim.count.value_or(1);
+    if (count > kMaxElements) {
+        *problem = {dim.position,
+                    QStringLiteral("<dim> is %1, and at most %2 was expected").arg(count).arg(kMaxElements), nullptr};
         return std::nullopt;
     }
-    if (*dim.count == 0 || *dim.count > kMaxElements) {
-        *problem =
-            QStringLiteral("<dim> is %1, and at least 1 and at most %2 was expected").arg(*dim.count).arg(kMaxElements);
-        return std::nullopt;
+    if (!dim.count) {
+        *problem = {dim.position,
+                    QStringLiteral("there is no <dim>, and one was expected beside <dimIncrement> and <dimIndex>"),
+                    kOneCopy};
+        return numbers(count);
     }
     if (dim.index.isEmpty()) {
-        SvdDimIndices numbers;
-        numbers.m_count = *dim.count;
-        return numbers;
+        return numbers(count);
     }
     std::optional<SvdDimIndices> indices = fromText(dim.index);
+    QString found;
     if (!indices) {
-        *problem = QStringLiteral("<dimIndex> is %1, and a range such as 0-3 or A-D or a list such as A,B,C was "
-                                  "expected")
-                       .arg(quoted(dim.index));
-        return std::nullopt;
+        found = QStringLiteral("<dimIndex> is %1, and a range such as 0-3 or A-D or a list such as A,B,C was expected")
+                    .arg(quoted(dim.index));
+    } else if (indices->m_count < count) {
+        found = QStringLiteral("<dimIndex> %1 names %2, and as many as <dim> says, %3, were expected")
+                    .arg(quoted(dim.index))
+                    .arg(indices->m_count)
+                    .arg(count);
     }
-    if (indices->m_count < *dim.count) {
-        *problem = QStringLiteral("<dimIndex> %1 names %2, and as many as <dim> says, %3, were expected")
-                       .arg(quoted(dim.index))
-                       .arg(indices->m_count)
-                       .arg(*dim.count);
-        return std::nullopt;
+    if (!found.isEmpty()) {
+        *problem = {dim.indexPosition, found, "the copies are numbered from 0"};
+        return numbers(count);
     }
-    indices->m_count = *dim.count; // names beyond the count are left over
+    indices->m_count = count; // names beyond the count are left over
     return indices;
 }
 
@@ -157,7 +166,7 @@ QString copyName(const QString& name, const QString& index, quint64 count)
 
 bool isCopyName(const RawDim& dim, const QString& name, const QString& wanted)
 {
-    QString ignored;
+    SvdDimProblem ignored;
     const std::optional<SvdDimIndices> indices = SvdDimIndices::of(dim, &ignored);
     for (quint64 i = 0; indices && i < indices->count(); ++i) {
         if (copyName(name, indices->at(i), indices->count()) == wanted) {

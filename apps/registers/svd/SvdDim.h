@@ -10,16 +10,31 @@
 
 namespace registers {
 
+/// What is taken of an array that does not say how its copies follow each other.
+constexpr const char* kOneCopy = "one copy is taken";
+
+/// Why an array is not what its description says, and where.
+struct SvdDimProblem
+{
+    SvdPosition position;
+    QString found;               ///< empty when there is none
+    const char* taken = nullptr; ///< what is taken instead
+};
+
 /// What stands for %s in the copies of an array or a list, made as it is asked for: a description can call for
 /// many copies in few words.
 class SvdDimIndices
 {
 public:
-    /// Nothing when @p dim makes no sense; @p problem then says why.
-    static std::optional<SvdDimIndices> of(const RawDim& dim, QString* problem);
+    /// What can be made of @p dim; @p problem says where that is not what it states. Nothing when it calls for absurdly
+    /// many copies.
+    static std::optional<SvdDimIndices> of(const RawDim& dim, SvdDimProblem* problem);
+    /// 0 to @p count - 1.
+    static SvdDimIndices numbers(quint64 count);
 
     quint64 count() const { return m_count; }
     QString at(quint64 number) const;
+    void keepFirst() { m_count = 1; }
 
 private:
     enum class Kind { Numbers, Letters, Listed };

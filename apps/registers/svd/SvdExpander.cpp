@@ -2,6 +2,7 @@
 #include "svd/SvdExpander.h"
 
 #include "svd/SvdProgressMeter.h"
+#include "svd/SvdRemarks.h"
 #include "text/Quoted.h"
 
 #include <algorithm>
@@ -43,8 +44,9 @@ RawUsage usageOf(const RawEnumeration& enumeration)
 
 } // namespace
 
-SvdExpander::SvdExpander(SvdDescription* description, SvdProgressMeter* meter)
+SvdExpander::SvdExpander(SvdDescription* description, SvdRemarks* remarks, SvdProgressMeter* meter)
     : m_description(*description)
+    , m_remarks(*remarks)
     , m_meter(*meter)
     , m_dims(description->dims.size())
     , m_extents(description->nodes.size())
@@ -71,35 +73,42 @@ bool SvdExpander::expand(Device* device)
 
 bool SvdExpander::prepareDims()
 {
-    for (const RawNode& node : m_description.nodes) {
-        if (node.dim < 0) {
-            continue;
-        }
-        if (!prepareDim(node.dim, node.name)) {
-            return false;
-        }
-        const RawDim& dim = m_description.dim(node.dim);
-        if (!dim.increment && copiesOf(node.dim) > 1) {
-            fail(dim.position, QStringLiteral("the array %1 has no <dimIncrement>, and one was expected in it")
-                                   .arg(quoted(node.name)));
-            return false;
+    for (qint32 id = 0; id < qint32(m_description.nodes.size()); ++id) {
+        const RawNode& node = m_description.node(id);
+        if (!node.isLeftOut) {
+            prepareDim(node.dim, node.name, id, true);
         }
     }
-    return std::all_of(m_description.fields.cbegin(), m_description.fields.cend(),
-                       [this](const RawField& field) { return field.dim < 0 || prepareDim(field.dim, field.name); });
+    for (const RawField& field : m_description.fields) {
+        if (!field.isLeftOut) {
+            prepareDim(field.dim, field.name, field.reg, false);
+        }
+    }
+    return !m_isOver;
 }
 
-bool SvdExpander::prepareDim(qint32 dim, const QString& name)
+void SvdExpander::prepareDim(qint32 dimId, const QString& name, qint32 node, bool needsIncrement)
 {
-    std::optional<SvdDimIndices>& indices = m_dims[size_t(dim)];
-    QString problem;
-    if (!indices) {
-        indices = SvdDimIndices::of(m_description.dim(dim), &problem);
+    if (dimId < 0 || m_dims[size_t(dimId)]) {
+        return;
     }
+    const RawDim& dim = m_description.dim(dimId);
+    const QString place = QStringLiteral("in the array %1 ").arg(quoted(name));
+    SvdDimProblem problem;
+    std::optional<SvdDimIndices> indices = SvdDimIndices::of(dim, &problem);
     if (!indices) {
-        fail(m_description.dim(dim).position, QStringLiteral("in the array %1 %2").arg(quoted(name), problem));
+        fail(problem.position, place + problem.found);
+        return;
     }
-    return indices.has_value();
+    if (!problem.found.isEmpty()) {
+        m_remarks.add(problem.position, place + problem.found, problem.taken, node);
+    }
+    if (needsIncrement && !dim.increment && indices->count() > 1) {
+        m_remarks.add(dim.position, place + QStringLiteral("there is no <dimIncrement>, and one was expected"),
+                      kOneCopy, node);
+        indices->keepFirst();
+    }
+    m_dims[size_t(dimId)] = std::move(indices);
 }
 
 quint64 SvdExpander::copiesOf(qint32 dim) const
@@ -125,6 +134,10 @@ const SvdExpander::Extent& SvdExpander::extentOf(qint32 id)
         return extent;
     }
     const RawNode& node = m_description.node(id);
+    if (node.isLeftOut) {
+        extent.isKnown = true;
+        return extent;
+    }
     Extent one;
     one.nodes = 1;
     if (node.kind == NodeKind::Register) {
@@ -145,7 +158,8 @@ quint64 SvdExpander::fieldCountOf(const RawNode& reg) const
 {
     quint64 count = 0;
     for (qint32 i = reg.fields.first; i < reg.fields.end(); ++i) {
-        count += copiesOf(m_description.field(m_description.fieldId(i)).dim);
+        const RawField& field = m_description.field(m_description.fieldId(i));
+        count += field.isLeftOut ? 0 : copiesOf(field.dim);
     }
     return count;
 }
@@ -177,6 +191,9 @@ void SvdExpander::expandChildren(RawRange children, const Place& place)
 
 void SvdExpander::expandNode(const RawNode& node, const Place& place)
 {
+    if (node.isLeftOut) {
+        return;
+    }
     if (node.dim < 0) {
         expandCopy(node, place, nullptr, 0);
         return;
@@ -227,20 +244,20 @@ void SvdExpander::expandRegister(const RawNode& node, const Place& place, Regist
     reg.access = properties.access.value_or(Access::ReadWrite);
     reg.resetValue = properties.resetValue.value_or(0) & reg.valueMask();
     reg.resetMask = properties.resetMask.value_or(~quint64(0)) & reg.valueMask();
-    reg.fields = fieldsOf(node.fields, reg.access);
+    reg.fields = fieldsOf(node.fields, reg);
     reg.hasReadAction = node.hasReadAction || std::any_of(reg.fields.cbegin(), reg.fields.cend(),
                                                           [](const Field& field) { return field.hasReadAction; });
     m_device->addRegister(place.treeNode, std::move(reg));
 }
 
 /// The fields of a register, made once for all the registers that share them.
-const QVector<Field>& SvdExpander::fieldsOf(RawRange range, Access inherited)
+const QVector<Field>& SvdExpander::fieldsOf(RawRange range, const Register& reg)
 {
     static const QVector<Field> none;
     if (range.count == 0) {
         return none;
     }
-    const quint64 key = quint64(range.first) * kAccessCount + quint64(inherited);
+    const quint64 key = (quint64(range.first) * kAccessCount + quint64(reg.access)) * (kMaxRegisterSize + 1) + reg.size;
     const auto known = m_fields.constFind(key);
     if (known != m_fields.constEnd()) {
         return *known;
@@ -248,16 +265,20 @@ const QVector<Field>& SvdExpander::fieldsOf(RawRange range, Access inherited)
     QVector<Field> fields;
     fields.reserve(range.count);
     for (qint32 i = range.first; i < range.end() && !m_isOver; ++i) {
-        expandField(m_description.field(m_description.fieldId(i)), inherited, &fields);
+        expandField(m_description.fieldId(i), reg, &fields);
     }
     return *m_fields.insert(key, fields);
 }
 
-void SvdExpander::expandField(const RawField& raw, Access inherited, QVector<Field>* fields)
+void SvdExpander::expandField(qint32 id, const Register& reg, QVector<Field>* fields)
 {
+    const RawField& raw = m_description.field(id);
+    if (raw.isLeftOut) {
+        return;
+    }
     Field field;
     field.enumeration = enumerationOf(raw);
-    field.access = raw.access.value_or(inherited);
+    field.access = raw.access.value_or(reg.access);
     field.hasReadAction = raw.hasReadAction;
     field.width = quint8(raw.bits.width);
     const quint64 copies = copiesOf(raw.dim);
@@ -269,16 +290,29 @@ void SvdExpander::expandField(const RawField& raw, Access inherited, QVector<Fie
         field.description = copyText(raw.description, copyIndex);
         // A larger increment than this leaves the register at once; it must not wrap around into it.
         const quint64 lsb = quint64(raw.bits.lsb) + i * std::min(increment, kMaxLsb + 1);
-        if (lsb > kMaxLsb) {
-            fail(raw.position, QStringLiteral("the field %1 begins at bit %2, and a bit from 0 to %3 was expected")
-                                   .arg(quoted(field.name))
-                                   .arg(lsb)
-                                   .arg(kMaxLsb));
+        if (lsb >= reg.size) {
+            remarkOutside(id, field, lsb, reg);
             return;
         }
         field.lsb = quint8(lsb);
         fields->append(field);
     }
+}
+
+/// Said once of a field, however many registers share it.
+void SvdExpander::remarkOutside(qint32 id, const Field& field, quint64 lsb, const Register& reg)
+{
+    if (m_outside.contains(id)) {
+        return;
+    }
+    m_outside.insert(id);
+    const RawField& raw = m_description.field(id);
+    m_remarks.add(raw.position,
+                  QStringLiteral("the field %1 begins at bit %2, and a bit from 0 to %3 was expected")
+                      .arg(quoted(field.name))
+                      .arg(lsb)
+                      .arg(reg.size - 1),
+                  raw.dim < 0 ? kFieldLeftOut : "this copy and those behind it are left out", raw.reg);
 }
 
 /// The first of the enumerations that is for @p wanted, or -1.

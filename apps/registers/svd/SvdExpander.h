@@ -6,6 +6,7 @@
 #include "svd/SvdDim.h"
 
 #include <QHash>
+#include <QSet>
 #include <QSharedPointer>
 #include <QVector>
 
@@ -15,13 +16,14 @@
 namespace registers {
 
 class SvdProgressMeter;
+class SvdRemarks;
 
 /// Makes a device of a description whose derivations are resolved: arrays become their copies, and registers
 /// and fields get what they inherit.
 class SvdExpander
 {
 public:
-    SvdExpander(SvdDescription* description, SvdProgressMeter* meter);
+    SvdExpander(SvdDescription* description, SvdRemarks* remarks, SvdProgressMeter* meter);
 
     /// False when there was a problem, or when reading was cancelled.
     bool expand(Device* device);
@@ -46,7 +48,7 @@ private:
 
     // Before: whether it makes sense, and how much it is.
     bool prepareDims();
-    bool prepareDim(qint32 dim, const QString& name);
+    void prepareDim(qint32 dim, const QString& name, qint32 node, bool needsIncrement);
     quint64 copiesOf(qint32 dim) const;
     bool measure();
     const Extent& extentOf(qint32 id);
@@ -59,8 +61,9 @@ private:
     void expandNode(const RawNode& node, const Place& place);
     void expandCopy(const RawNode& node, const Place& place, const QString* index, quint64 number);
     void expandRegister(const RawNode& node, const Place& place, Register&& reg, const RawProperties& properties);
-    const QVector<Field>& fieldsOf(RawRange fields, Access inherited);
-    void expandField(const RawField& raw, Access inherited, QVector<Field>* fields);
+    const QVector<Field>& fieldsOf(RawRange fields, const Register& reg);
+    void expandField(qint32 id, const Register& reg, QVector<Field>* fields);
+    void remarkOutside(qint32 id, const Field& field, quint64 lsb, const Register& reg);
     qint32 enumerationFor(RawUsage wanted, RawRange enumerations) const;
     QSharedPointer<const Enumeration> enumerationOf(const RawField& raw);
     QSharedPointer<const Enumeration> makeEnumeration(const RawEnumeration& raw) const;
@@ -69,12 +72,14 @@ private:
     void fail(const SvdPosition& position, const QString& message);
 
     SvdDescription& m_description;
+    SvdRemarks& m_remarks;
     SvdProgressMeter& m_meter;
     Device* m_device = nullptr;
     std::vector<std::optional<SvdDimIndices>> m_dims;
     std::vector<Extent> m_extents;
     std::vector<QSharedPointer<const Enumeration>> m_enumerations;
-    QHash<quint64, QVector<Field>> m_fields; ///< by their range and the access they inherit
+    QHash<quint64, QVector<Field>> m_fields; ///< by their range, and the access and the size of their register
+    QSet<qint32> m_outside;                  ///< the fields of which it is said that they leave their register
     Extent m_total;
     std::optional<SvdProblem> m_problem;
     quint64 m_steps = 0;

@@ -4,10 +4,8 @@
 #include "svd/SvdDim.h"
 #include "svd/SvdMerge.h"
 #include "svd/SvdProgressMeter.h"
+#include "svd/SvdRemarks.h"
 #include "text/Quoted.h"
-
-#include <algorithm>
-#include <utility>
 
 namespace registers {
 
@@ -27,6 +25,9 @@ std::optional<qint32> widthOf(const RawBits& bits, bool hasOwnLsb, const RawFiel
         return bits.width;
     }
     if (base) {
+        if (base->bits.width < 0) {
+            return std::nullopt; // it is left out
+        }
         // An own <lsb> stays paired with the base's msb, an own <bitOffset> with its width.
         const bool keepsMsb = hasOwnLsb && !bits.lsbIsOffset;
         return keepsMsb ? base->bits.lsb + base->bits.width - bits.lsb : base->bits.width;
@@ -36,13 +37,13 @@ std::optional<qint32> widthOf(const RawBits& bits, bool hasOwnLsb, const RawFiel
 
 } // namespace
 
-SvdFieldResolver::SvdFieldResolver(SvdDescription* description, SvdNodeResolver* nodes, SvdProgressMeter* meter)
+SvdFieldResolver::SvdFieldResolver(SvdDescription* description, SvdNodeResolver* nodes, SvdRemarks* remarks,
+                                   SvdProgressMeter* meter)
     : m_description(*description)
     , m_nodes(*nodes)
+    , m_remarks(*remarks)
     , m_meter(*meter)
-    , m_enumerations(description, nodes)
     , m_fieldStates(description->fields.size(), SvdDerivationState::Open)
-    , m_enumerationStates(description->enumerations.size(), SvdDerivationState::Open)
 {
 }
 
@@ -54,12 +55,6 @@ bool SvdFieldResolver::resolve()
             return false;
         }
     }
-    const qint32 enumerationCount = qint32(m_description.enumerations.size());
-    for (qint32 id = 0; id < enumerationCount; ++id) {
-        if (!resolveEnumeration(id) || (id % kElementsPerTick == 0 && !m_meter.expanded(0, 1))) {
-            return false;
-        }
-    }
     return true;
 }
 
@@ -68,10 +63,7 @@ bool SvdFieldResolver::resolveField(qint32 id)
     if (m_fieldStates[size_t(id)] == SvdDerivationState::Done) {
         return true;
     }
-    const auto cycle = [this](qint32 at) {
-        const RawField& field = m_description.field(at);
-        failCycle(field.position, field.derivedFrom);
-    };
+    const auto cycle = [this](qint32 at) { remarkReference(at, true); };
     if (++m_depth > kMaxReferenceDepth) {
         fail(m_description.field(id).position,
              QStringLiteral("references lead through more than %1 elements that are derived themselves")
@@ -91,15 +83,14 @@ std::optional<qint32> SvdFieldResolver::fieldBaseOf(qint32 id)
         return kNoBase;
     }
     const qint32 base = findFieldBase(id, id);
-    if (base != kNotFound && !m_problem) {
+    if (m_problem || m_nodes.problem()) {
+        return std::nullopt;
+    }
+    if (base != kNotFound) {
         return base;
     }
-    if (findFieldBase(id, kNotFound) == id) {
-        failCycle(field.position, field.derivedFrom);
-    } else {
-        failReference(field.position, field.derivedFrom, "field");
-    }
-    return std::nullopt;
+    remarkReference(id, findFieldBase(id, kNotFound) == id);
+    return kNoBase;
 }
 
 qint32 SvdFieldResolver::findFieldBase(qint32 id, qint32 except)
@@ -174,11 +165,40 @@ bool SvdFieldResolver::mergeField(qint32 id, qint32 baseId)
             field.dim = inheritedDim(&m_description, field.dim, base->dim);
         }
     }
-    return completeBits(&field, base);
+    completeName(&field, base);
+    completeBits(&field, base);
+    return true;
 }
 
-/// Brings the three ways of stating bits to one: lsb and width.
-bool SvdFieldResolver::completeBits(RawField* field, const RawField* base)
+void SvdFieldResolver::completeName(RawField* field, const RawField* base)
+{
+    if (!field->name.isEmpty()) {
+        return;
+    }
+    if (base) {
+        field->name = base->name;
+    }
+    const bool isNamed = !field->name.isEmpty();
+    m_remarks.add(field->position, QStringLiteral("this <field> has no name, and a <name> was expected in it"),
+                  isNamed ? kNameOfBase : kFieldLeftOut, field->reg);
+    field->isLeftOut = field->isLeftOut || !isNamed;
+}
+
+/// Brings the three ways of stating bits to one: lsb and width. A field that states none has neither afterwards.
+void SvdFieldResolver::completeBits(RawField* field, const RawField* base)
+{
+    const QString problem = field->isLeftOut ? QString() : problemOfBits(field, base);
+    if (!problem.isEmpty()) {
+        m_remarks.add(field->position, problem, kFieldLeftOut, field->reg);
+        field->isLeftOut = true;
+    }
+    if (field->isLeftOut) {
+        field->bits = RawBits();
+    }
+}
+
+/// As completeBits(); says what is wrong with the bits, or nothing.
+QString SvdFieldResolver::problemOfBits(RawField* field, const RawField* base)
 {
     RawBits& bits = field->bits;
     const bool hasOwnLsb = bits.lsb >= 0;
@@ -187,183 +207,20 @@ bool SvdFieldResolver::completeBits(RawField* field, const RawField* base)
     }
     const std::optional<qint32> width = bits.lsb >= 0 ? widthOf(bits, hasOwnLsb, base) : std::nullopt;
     if (!width) {
-        fail(field->position, QStringLiteral("the field %1 does not say which bits it has, and <bitOffset>, "
-                                             "<lsb> and <msb>, or <bitRange> was expected in it")
-                                  .arg(quoted(field->name)));
-        return false;
+        return QStringLiteral("the field %1 does not say which bits it has, and <bitOffset>, <lsb> and <msb>, or "
+                              "<bitRange> was expected in it")
+            .arg(quoted(field->name));
     }
     if (*width < 1 || *width > kMaxFieldWidth) {
-        fail(field->position, QStringLiteral("the field %1 is %2 bits wide, and 1 to %3 bits were expected, with "
-                                             "the msb not below the lsb")
-                                  .arg(quoted(field->name))
-                                  .arg(*width)
-                                  .arg(kMaxFieldWidth));
-        return false;
+        return QStringLiteral("the field %1 is %2 bits wide, and 1 to %3 bits were expected, with the msb not below "
+                              "the lsb")
+            .arg(quoted(field->name))
+            .arg(*width)
+            .arg(kMaxFieldWidth);
     }
     bits.width = *width;
     bits.msb = -1;
-    return true;
-}
-
-bool SvdFieldResolver::resolveEnumeration(qint32 id)
-{
-    const auto cycle = [this](qint32 at) {
-        const RawEnumeration& enumeration = m_description.enumeration(at);
-        failCycle(enumeration.position, enumeration.derivedFrom);
-    };
-    const auto base = [this](qint32 at) { return enumerationBaseOf(at); };
-    const auto merge = [this](qint32 at, qint32 baseId) { return mergeEnumeration(at, baseId); };
-    return followDerivation(id, &m_enumerationStates, base, merge, cycle);
-}
-
-std::optional<qint32> SvdFieldResolver::enumerationBaseOf(qint32 id)
-{
-    const RawEnumeration& enumeration = m_description.enumeration(id);
-    if (enumeration.derivedFrom.isEmpty()) {
-        return kNoBase;
-    }
-    const qint32 base = findEnumerationBase(id, id);
-    if (base != kNotFound && !m_problem) {
-        return base;
-    }
-    if (findEnumerationBase(id, kNotFound) != kNotFound) {
-        failCycle(enumeration.position, enumeration.derivedFrom);
-    } else {
-        failReference(enumeration.position, enumeration.derivedFrom, "enumeratedValues");
-    }
-    return std::nullopt;
-}
-
-qint32 SvdFieldResolver::findEnumerationBase(qint32 id, qint32 except)
-{
-    const RawEnumeration& enumeration = m_description.enumeration(id);
-    const QString& name = enumeration.derivedFrom;
-    const qint32 reg = m_description.field(enumeration.field).reg;
-    qint32 found = enumerationInField(enumeration.field, name, except);
-    if (found == kNotFound) {
-        found = enumerationInRegister(reg, name, except);
-    }
-    qint32 scope = reg;
-    while (found == kNotFound && scope != kDeviceScope) {
-        scope = m_description.node(scope).parent;
-        found = enumerationInScope(scope, name, except);
-    }
-    return found;
-}
-
-qint32 SvdFieldResolver::enumerationInField(qint32 field, const QString& name, qint32 except) const
-{
-    const RawRange enumerations = m_description.field(field).enumerations;
-    for (qint32 id = enumerations.first; id < enumerations.end(); ++id) {
-        if (m_description.enumeration(id).name == name && isPossibleBase(id, except)) {
-            return id;
-        }
-    }
-    return kNotFound;
-}
-
-/// Looks through a register's fields: for the enumeration's name, for "field.name", and for a field's name.
-qint32 SvdFieldResolver::enumerationInRegister(qint32 reg, const QString& name, qint32 except)
-{
-    const RawRange fields = m_description.node(reg).fields;
-    for (qint32 i = fields.first; i < fields.end(); ++i) {
-        const qint32 found = enumerationInField(m_description.fieldId(i), name, except);
-        if (found != kNotFound) {
-            return found;
-        }
-    }
-    const auto dot = name.indexOf(QLatin1Char('.'));
-    const qint32 field = fieldNamed(reg, dot < 0 ? name : name.left(dot), kNotFound);
-    if (field == kNotFound) {
-        return kNotFound;
-    }
-    return dot < 0 ? firstEnumerationOf(field, except) : enumerationInField(field, name.mid(dot + 1), except);
-}
-
-/// Looks through all that a node or the device holds: for the enumeration's name, and for a path from there.
-qint32 SvdFieldResolver::enumerationInScope(qint32 scope, const QString& name, qint32 except)
-{
-    const QVector<qint32> named = m_enumerations.below(scope).value(name);
-    const auto found =
-        std::find_if(named.cbegin(), named.cend(), [&](qint32 id) { return isPossibleBase(id, except); });
-    if (found != named.cend()) {
-        return *found;
-    }
-    return enumerationAt(scope, name.split(QLatin1Char('.')), except);
-}
-
-/// The enumeration at a path below @p scope. The path may end with a field, and then means its first one.
-qint32 SvdFieldResolver::enumerationAt(qint32 scope, const QStringList& path, qint32 except)
-{
-    const auto size = path.size();
-    if (size >= 3) {
-        const qint32 reg = registerAt(scope, path.mid(0, size - 2));
-        const qint32 field = reg == kNotFound ? kNotFound : fieldNamed(reg, path.at(size - 2), kNotFound);
-        const qint32 found = field == kNotFound ? kNotFound : enumerationInField(field, path.at(size - 1), except);
-        if (found != kNotFound) {
-            return found;
-        }
-    }
-    const qint32 field = size >= 2 ? fieldAt(scope, path, kNotFound) : kNotFound;
-    return field == kNotFound ? kNotFound : firstEnumerationOf(field, except);
-}
-
-qint32 SvdFieldResolver::firstEnumerationOf(qint32 field, qint32 except) const
-{
-    const RawRange enumerations = m_description.field(field).enumerations;
-    for (qint32 id = enumerations.first; id < enumerations.end(); ++id) {
-        if (isPossibleBase(id, except)) {
-            return id;
-        }
-    }
-    return kNotFound;
-}
-
-/// False for @p asker itself, for what is being derived at the moment, and for what asks for the same base under the
-/// same name: several fields may each have a copy that keeps the name. Without an asker everything is possible.
-bool SvdFieldResolver::isPossibleBase(qint32 id, qint32 asker) const
-{
-    if (asker == kNotFound) {
-        return true;
-    }
-    const RawEnumeration& candidate = m_description.enumeration(id);
-    const RawEnumeration& asking = m_description.enumeration(asker);
-    const bool isAlike = candidate.name == asking.name && candidate.derivedFrom == asking.derivedFrom;
-    return id != asker && !isAlike && m_enumerationStates[size_t(id)] != SvdDerivationState::Busy;
-}
-
-bool SvdFieldResolver::mergeEnumeration(qint32 id, qint32 baseId)
-{
-    if (baseId != kNoBase) {
-        RawEnumeration& enumeration = m_description.enumeration(id);
-        const RawEnumeration& base = m_description.enumeration(baseId);
-        enumeration.usage = enumeration.usage ? enumeration.usage : base.usage;
-        enumeration.values = mergedValues(enumeration.values, base.values);
-    }
-    return true;
-}
-
-/// The base's values, of which own ones with their names take the place, then the own ones with new names.
-RawRange SvdFieldResolver::mergedValues(RawRange own, RawRange base)
-{
-    std::vector<EnumValue>& values = m_description.enumValues;
-    if (own.count == 0) {
-        return base;
-    }
-    std::vector<EnumValue> left(values.cbegin() + own.first, values.cbegin() + own.end());
-    const RawRange range{qint32(values.size()), base.count};
-    for (qint32 i = base.first; i < base.end(); ++i) {
-        EnumValue entry = values[size_t(i)];
-        const auto replacement = std::find_if(
-            left.begin(), left.end(), [&entry](const EnumValue& candidate) { return candidate.name == entry.name; });
-        if (replacement != left.end()) {
-            entry = *replacement;
-            left.erase(replacement);
-        }
-        values.push_back(std::move(entry));
-    }
-    values.insert(values.end(), left.cbegin(), left.cend());
-    return {range.first, qint32(values.size()) - range.first};
+    return QString();
 }
 
 qint32 SvdFieldResolver::registerAt(qint32 scope, const QStringList& path)
@@ -371,18 +228,13 @@ qint32 SvdFieldResolver::registerAt(qint32 scope, const QStringList& path)
     return path.isEmpty() ? kNotFound : m_nodes.nodeAt(scope, path, NodeKind::Register);
 }
 
-void SvdFieldResolver::failCycle(const SvdPosition& position, const QString& reference)
+void SvdFieldResolver::remarkReference(qint32 id, bool isCycle)
 {
-    fail(position, QStringLiteral("derivedFrom=%1 leads back to where it stands, and a base that does not was "
-                                  "expected")
-                       .arg(quoted(reference)));
-}
-
-void SvdFieldResolver::failReference(const SvdPosition& position, const QString& reference, const char* element)
-{
-    fail(position, QStringLiteral("derivedFrom=%1 leads to no <%2>, and the name or the dotted path of one was "
-                                  "expected")
-                       .arg(quoted(reference), QLatin1String(element)));
+    const RawField& field = m_description.field(id);
+    m_remarks.add(field.position,
+                  isCycle ? cyclicReference(field.derivedFrom)
+                          : deadReference(field.derivedFrom, QLatin1String("field")),
+                  kNotSaid, field.reg);
 }
 
 void SvdFieldResolver::fail(const SvdPosition& position, const QString& message)

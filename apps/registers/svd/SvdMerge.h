@@ -55,8 +55,12 @@ inline qint32 inheritedDim(SvdDescription* description, qint32 own, qint32 base)
     const RawDim& baseDim = description->dim(base);
     if (dim.index.isEmpty() && (!dim.count || dim.count == baseDim.count)) {
         dim.index = baseDim.index;
+        dim.indexPosition = baseDim.indexPosition;
     }
-    dim.count = dim.count ? dim.count : baseDim.count;
+    if (!dim.count && baseDim.count) {
+        dim.count = baseDim.count;
+        dim.position = baseDim.position;
+    }
     dim.increment = dim.increment ? dim.increment : baseDim.increment;
     return own;
 }

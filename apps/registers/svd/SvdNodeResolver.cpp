@@ -4,6 +4,7 @@
 #include "svd/SvdDim.h"
 #include "svd/SvdMerge.h"
 #include "svd/SvdProgressMeter.h"
+#include "svd/SvdRemarks.h"
 #include "text/Quoted.h"
 
 #include <algorithm>
@@ -17,18 +18,6 @@ constexpr int kMaxReferenceDepth = 100;
 constexpr int kBusyHeight = -1;
 // A peripheral and a register around the clusters.
 constexpr int kMaxNodeDepth = kMaxClusterDepth + 2;
-
-QLatin1String kindName(NodeKind kind)
-{
-    switch (kind) {
-    case NodeKind::Peripheral:
-        return QLatin1String("peripheral");
-    case NodeKind::Cluster:
-        return QLatin1String("cluster");
-    default:
-        return QLatin1String("register");
-    }
-}
 
 bool isPeripheral(NodeKind kind)
 {
@@ -68,6 +57,13 @@ void inherit(RawProperties* own, const RawProperties& base)
     own->access = own->access ? own->access : base.access;
 }
 
+QString cycleText(const RawNode& node)
+{
+    return QStringLiteral("derivedFrom=%1 makes the %2 %3 derive from itself, and a base that does not lead back was "
+                          "expected")
+        .arg(quoted(node.derivedFrom), elementName(node.kind), quoted(node.name));
+}
+
 void inherit(QString* own, const QString& base)
 {
     if (own->isEmpty()) {
@@ -77,8 +73,9 @@ void inherit(QString* own, const QString& base)
 
 } // namespace
 
-SvdNodeResolver::SvdNodeResolver(SvdDescription* description, SvdProgressMeter* meter)
+SvdNodeResolver::SvdNodeResolver(SvdDescription* description, SvdRemarks* remarks, SvdProgressMeter* meter)
     : m_description(*description)
+    , m_remarks(*remarks)
     , m_meter(*meter)
     , m_states(description->nodes.size(), SvdDerivationState::Open)
     , m_heights(description->nodes.size(), 0)
@@ -126,7 +123,7 @@ bool SvdNodeResolver::resolveNode(qint32 id)
     }
     const auto base = [this](qint32 at) { return baseOf(at); };
     const auto mergeBase = [this](qint32 at, qint32 baseId) { return merge(at, baseId); };
-    const auto cycle = [this](qint32 at) { failNesting(at); };
+    const auto cycle = [this](qint32 at) { remarkCycle(at); };
     const bool isResolved = !m_problem && followDerivation(id, &m_states, base, mergeBase, cycle);
     --m_depth;
     return isResolved;
@@ -146,13 +143,11 @@ std::optional<qint32> SvdNodeResolver::baseOf(qint32 id)
         return base;
     }
     if (base != kNotFound || findBase(id, kNotFound) == id) {
-        failNesting(id);
+        remarkCycle(id);
     } else {
-        fail(node.position,
-             QStringLiteral("derivedFrom=%1 leads to no %2, and the name or the dotted path of one was expected")
-                 .arg(quoted(node.derivedFrom), kindName(node.kind)));
+        m_remarks.add(node.position, deadReference(node.derivedFrom, elementName(node.kind)), kNotSaid, id);
     }
-    return std::nullopt;
+    return kNoBase;
 }
 
 qint32 SvdNodeResolver::findBase(qint32 id, qint32 except)
@@ -174,12 +169,13 @@ qint32 SvdNodeResolver::findBase(qint32 id, qint32 except)
 bool SvdNodeResolver::merge(qint32 id, qint32 baseId)
 {
     RawNode& node = m_description.node(id);
+    completeName(id, baseId);
     if (baseId != kNoBase) {
         const RawNode& base = m_description.node(baseId);
         inherit(&node.displayName, base.displayName);
         inherit(&node.description, base.description);
         inherit(&node.properties, base.properties);
-        node.offset = node.offset ? node.offset : base.offset;
+        node.offset = node.offset || node.isLeftOut ? node.offset : base.offset;
         node.hasReadAction = node.hasReadAction || base.hasReadAction;
         mergeDim(&node, base);
         node.children = mergedByName(&m_description.childIds, node.children, base.children,
@@ -187,12 +183,31 @@ bool SvdNodeResolver::merge(qint32 id, qint32 baseId)
         node.fields = mergedByName(&m_description.fieldIds, node.fields, base.fields,
                                    [this](qint32 field) -> const QString& { return m_description.field(field).name; });
     }
-    if (!node.offset) {
+    if (!node.offset && !node.isLeftOut) {
         const QLatin1String element(node.kind == NodeKind::Peripheral ? "baseAddress" : "addressOffset");
-        fail(node.position, QStringLiteral("the %1 %2 has no address, and an <%3> was expected in it")
-                                .arg(kindName(node.kind), quoted(node.name), element));
+        m_remarks.add(node.position,
+                      QStringLiteral("the %1 %2 has no address, and an <%3> was expected in it")
+                          .arg(elementName(node.kind), quoted(node.name), element),
+                      leftOut(node.kind), id);
+        node.isLeftOut = true;
     }
     return !m_problem;
+}
+
+void SvdNodeResolver::completeName(qint32 id, qint32 baseId)
+{
+    RawNode& node = m_description.node(id);
+    if (!node.name.isEmpty()) {
+        return;
+    }
+    if (baseId != kNoBase) {
+        node.name = m_description.node(baseId).name;
+    }
+    const bool isNamed = !node.name.isEmpty();
+    m_remarks.add(node.position,
+                  QStringLiteral("this <%1> has no name, and a <name> was expected in it").arg(elementName(node.kind)),
+                  isNamed ? kNameOfBase : leftOut(node.kind), id);
+    node.isLeftOut = node.isLeftOut || !isNamed;
 }
 
 void SvdNodeResolver::mergeDim(RawNode* node, const RawNode& base)
@@ -315,9 +330,14 @@ void SvdNodeResolver::failNesting(qint32 id)
     const auto derived = std::find_if(m_nesting.crbegin(), m_nesting.crend(),
                                       [this](qint32 at) { return !m_description.node(at).derivedFrom.isEmpty(); });
     const RawNode& node = m_description.node(derived == m_nesting.crend() ? id : *derived);
-    fail(node.position, QStringLiteral("derivedFrom=%1 makes the %2 %3 derive from itself, and a base that does "
-                                       "not lead back was expected")
-                            .arg(quoted(node.derivedFrom), kindName(node.kind), quoted(node.name)));
+    fail(node.position, cycleText(node));
+}
+
+/// What @p id derives from derives from it.
+void SvdNodeResolver::remarkCycle(qint32 id)
+{
+    const RawNode& node = m_description.node(id);
+    m_remarks.add(node.position, cycleText(node), kNotSaid, id);
 }
 
 void SvdNodeResolver::fail(const SvdPosition& position, const QString& message)

@@ -14,6 +14,7 @@
 namespace registers {
 
 class SvdProgressMeter;
+class SvdRemarks;
 
 constexpr qint32 kDeviceScope = -1;
 constexpr qint32 kNotFound = -1;
@@ -23,7 +24,7 @@ constexpr qint32 kNotFound = -1;
 class SvdNodeResolver
 {
 public:
-    SvdNodeResolver(SvdDescription* description, SvdProgressMeter* meter);
+    SvdNodeResolver(SvdDescription* description, SvdRemarks* remarks, SvdProgressMeter* meter);
 
     /// False when there was a problem, or when reading was cancelled.
     bool resolve();
@@ -48,6 +49,7 @@ private:
     std::optional<qint32> baseOf(qint32 id);
     qint32 findBase(qint32 id, qint32 except);
     bool merge(qint32 id, qint32 baseId);
+    void completeName(qint32 id, qint32 baseId);
     void mergeDim(RawNode* node, const RawNode& base);
     bool isWithin(qint32 id, qint32 ancestor) const;
 
@@ -59,9 +61,11 @@ private:
     bool checkNesting();
     int heightOf(qint32 id, int depth);
     void failNesting(qint32 id);
+    void remarkCycle(qint32 id);
     void fail(const SvdPosition& position, const QString& message);
 
     SvdDescription& m_description;
+    SvdRemarks& m_remarks;
     SvdProgressMeter& m_meter;
     SvdDerivationStates m_states;
     std::unordered_map<qint32, NameIndex> m_indices;

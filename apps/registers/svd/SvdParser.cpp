@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "svd/SvdParser.h"
 
+#include "svd/SvdDim.h"
 #include "svd/SvdNumber.h"
 #include "svd/SvdProgressMeter.h"
 #include "text/Quoted.h"
@@ -9,29 +10,17 @@
 
 namespace registers {
 
-namespace {
-
-const char* elementName(NodeKind kind)
-{
-    switch (kind) {
-    case NodeKind::Peripheral:
-        return "peripheral";
-    case NodeKind::Cluster:
-        return "cluster";
-    default:
-        return "register";
-    }
-}
-
-} // namespace
-
 bool SvdParser::parse(SvdDescription* description)
 {
     m_out = description;
     findRoot();
     if (!isOver()) {
+        const SvdPosition begin = childPosition();
         parseDevice();
         readToEnd();
+        if (m_out->peripherals.count == 0) {
+            fail(begin, QStringLiteral("this <device> has no <peripheral>, and at least one was expected in it"));
+        }
     }
     return !isOver();
 }
@@ -65,7 +54,9 @@ void SvdParser::parseDevice()
         }
     }
     m_out->peripherals = storeChildren(peripherals);
-    requireName(m_out->name, begin, "device");
+    if (m_out->name.isEmpty()) {
+        remark(begin, QStringLiteral("this <device> has no name, and a <name> was expected in it"), "it stays without");
+    }
 }
 
 void SvdParser::parsePeripherals(Children* peripherals)
@@ -91,15 +82,17 @@ qint32 SvdParser::parseNode(NodeKind kind, qint32 parent, int clusterDepth)
     if (clusterDepth > kMaxClusterDepth) {
         fail(childPosition(), QStringLiteral("clusters are nested more than %1 deep").arg(kMaxClusterDepth));
     }
+    const qint32 outer = presentNode();
+    setPresentNode(id);
     Children children;
     while (nextChild()) {
         parseNodeChild(id, childTag(), &children, clusterDepth);
     }
+    setPresentNode(outer);
     node.children = storeChildren(children);
     if (kind == NodeKind::Register) {
         node.fields.count = qint32(m_out->fieldIds.size()) - node.fields.first;
     }
-    requireName(node.name, node.position, elementName(kind));
     return id;
 }
 
@@ -114,7 +107,8 @@ void SvdParser::parseNodeChild(qint32 id, SvdTag tag, Children* children, int cl
     } else if (tag == SvdTag::Description) {
         node.description = readDescription();
     } else if (tag == SvdTag::BaseAddress || tag == SvdTag::AddressOffset) {
-        node.offset = readNumber();
+        node.offset = readNumber(leftOut(node.kind));
+        node.isLeftOut = node.isLeftOut || !node.offset;
     } else if (tag == SvdTag::ReadAction && !isGroup) {
         node.hasReadAction = readReadAction();
     } else if (tag == SvdTag::Fields && !isGroup) {
@@ -183,38 +177,41 @@ void SvdParser::parseField(qint32 reg)
             parseEnumeration(id);
             break;
         default:
-            if (!parseFieldBits(tag, &field.bits) && !parseDim(tag, &field.dim)) {
+            if (!parseFieldBits(tag, &field) && !parseDim(tag, &field.dim)) {
                 skipElement();
             }
         }
     }
     field.enumerations.count = qint32(m_out->enumerations.size()) - field.enumerations.first;
-    requireName(field.name, field.position, "field");
 }
 
-bool SvdParser::parseFieldBits(SvdTag tag, RawBits* bits)
+bool SvdParser::parseFieldBits(SvdTag tag, RawField* field)
 {
+    RawBits& bits = field->bits;
+    bool isReadable = true;
     switch (tag) {
     case SvdTag::BitOffset:
-        bits->lsb = readBit(kBitLimit - 1, "a bit");
-        bits->lsbIsOffset = true;
-        return true;
     case SvdTag::Lsb:
-        bits->lsb = readBit(kBitLimit - 1, "a bit");
-        bits->lsbIsOffset = false;
-        return true;
+        bits.lsb = readBit(kBitLimit - 1);
+        bits.lsbIsOffset = tag == SvdTag::BitOffset;
+        isReadable = bits.lsb >= 0;
+        break;
     case SvdTag::Msb:
-        bits->msb = readBit(2 * kBitLimit - 2, "a bit");
-        return true;
+        bits.msb = readBit(2 * kBitLimit - 2);
+        isReadable = bits.msb >= 0;
+        break;
     case SvdTag::BitWidth:
-        bits->width = readBit(kBitLimit, "a width");
-        return true;
+        bits.width = readWidth();
+        isReadable = bits.width >= 0;
+        break;
     case SvdTag::BitRange:
-        readBitRange(bits);
-        return true;
+        isReadable = readBitRange(&bits);
+        break;
     default:
         return false;
     }
+    field->isLeftOut = field->isLeftOut || !isReadable;
+    return true;
 }
 
 void SvdParser::parseEnumeration(qint32 field)
@@ -247,6 +244,7 @@ void SvdParser::parseEnumValue()
     EnumValue entry;
     entry.hasValue = false;
     QString valueText;
+    bool isReadable = true;
     while (nextChild()) {
         switch (childTag()) {
         case SvdTag::Name:
@@ -261,7 +259,8 @@ void SvdParser::parseEnumValue()
         case SvdTag::Value: {
             const std::optional<MaskedNumber> number = parseSvdMaskedNumber(readText());
             if (!number) {
-                failOnText(QStringLiteral("a number such as 2, 0x2, #10 or #1x"));
+                remarkOnText(QStringLiteral("a number such as 2, 0x2, #10 or #1x"), "the name is left out");
+                isReadable = false;
                 break;
             }
             entry.hasValue = true;
@@ -275,7 +274,7 @@ void SvdParser::parseEnumValue()
         }
     }
     // Vendors list reserved values without saying which they are: such an entry names nothing.
-    if (!entry.hasValue && !entry.isDefault) {
+    if (!isReadable || (!entry.hasValue && !entry.isDefault)) {
         return;
     }
     if (entry.name.isEmpty()) {
@@ -289,16 +288,16 @@ bool SvdParser::parseProperty(SvdTag tag, RawProperties* properties)
     switch (tag) {
     case SvdTag::Size:
         properties->sizePosition = childPosition();
-        properties->size = readNumber();
+        properties->size = readNumber(kInherited, 1);
         return true;
     case SvdTag::Access:
         properties->access = readAccess();
         return true;
     case SvdTag::ResetValue:
-        properties->resetValue = readNumber();
+        properties->resetValue = readNumber(kInherited);
         return true;
     case SvdTag::ResetMask:
-        properties->resetMask = readNumber();
+        properties->resetMask = readNumber(kInherited);
         return true;
     default:
         return false;
@@ -312,15 +311,16 @@ bool SvdParser::parseDim(SvdTag tag, qint32* dim)
     }
     if (*dim < 0) {
         *dim = qint32(m_out->dims.size());
-        m_out->dims.emplace_back();
+        m_out->dims.emplace_back().position = childPosition();
     }
     RawDim& raw = m_out->dim(*dim);
-    raw.position = childPosition();
     if (tag == SvdTag::Dim) {
-        raw.count = readNumber();
+        raw.position = childPosition();
+        raw.count = readNumber(kOneCopy, 1).value_or(1);
     } else if (tag == SvdTag::DimIncrement) {
-        raw.increment = readNumber();
+        raw.increment = readNumber(kNotSaid);
     } else {
+        raw.indexPosition = childPosition();
         raw.index = readName();
     }
     return true;

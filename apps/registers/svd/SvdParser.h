@@ -11,8 +11,8 @@ namespace registers {
 class SvdParser : private SvdXmlReader
 {
 public:
-    SvdParser(QIODevice& input, SvdProgressMeter& meter)
-        : SvdXmlReader(input, meter)
+    SvdParser(QIODevice& input, SvdProgressMeter& meter, SvdRemarks& remarks)
+        : SvdXmlReader(input, meter, remarks)
     {
     }
 
@@ -31,7 +31,7 @@ private:
     void parseRegisters(qint32 parent, Children* children, int clusterDepth);
     void parseFields(qint32 reg);
     void parseField(qint32 reg);
-    bool parseFieldBits(SvdTag tag, RawBits* bits);
+    bool parseFieldBits(SvdTag tag, RawField* field);
     void parseEnumeration(qint32 field);
     void parseEnumValue();
     bool parseProperty(SvdTag tag, RawProperties* properties);

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "svd/SvdReader.h"
 
+#include "svd/SvdEnumerationResolver.h"
 #include "svd/SvdExpander.h"
 #include "svd/SvdFieldResolver.h"
 #include "svd/SvdNodeResolver.h"
 #include "svd/SvdParser.h"
 #include "svd/SvdProgressMeter.h"
+#include "svd/SvdRemarks.h"
+#include "text/Quoted.h"
 
 #include <QFile>
 #include <QIODevice>
@@ -17,7 +20,8 @@ namespace {
 SvdResult failedBefore(const QString& fileName, const QString& reason)
 {
     SvdResult result;
-    result.error = {fileName, 0, 0, QStringLiteral("cannot be read: %1; a CMSIS-SVD file was expected").arg(reason)};
+    result.error = {fileName, 0, 0, QStringLiteral("cannot be read: %1; a CMSIS-SVD file was expected").arg(reason),
+                    QString()};
     return result;
 }
 
@@ -27,7 +31,7 @@ SvdResult failed(const QString& fileName, const std::optional<SvdProblem>& probl
     SvdResult result;
     result.cancelled = !problem;
     if (problem) {
-        result.error = {fileName, problem->position.line, problem->position.column, problem->message};
+        result.error = {fileName, problem->position.line, problem->position.column, problem->message, QString()};
     }
     return result;
 }
@@ -35,21 +39,26 @@ SvdResult failed(const QString& fileName, const std::optional<SvdProblem>& probl
 SvdResult readOpen(QIODevice& input, const QString& fileName, SvdProgressMeter* meter)
 {
     SvdDescription description;
-    SvdParser parser(input, *meter);
+    SvdRemarks remarks;
+    SvdParser parser(input, *meter, remarks);
     if (!parser.parse(&description)) {
         return failed(fileName, meter->isCancelled() ? std::nullopt : std::make_optional(parser.problem()));
     }
-    SvdNodeResolver nodes(&description, meter);
+    SvdNodeResolver nodes(&description, &remarks, meter);
     if (!nodes.resolve()) {
         return failed(fileName, nodes.problem());
     }
-    SvdFieldResolver fields(&description, &nodes, meter);
+    SvdFieldResolver fields(&description, &nodes, &remarks, meter);
     if (!fields.resolve()) {
+        return failed(fileName, fields.problem() ? fields.problem() : nodes.problem());
+    }
+    SvdEnumerationResolver enumerations(&description, &nodes, &fields, &remarks, meter);
+    if (!enumerations.resolve()) {
         return failed(fileName, fields.problem() ? fields.problem() : nodes.problem());
     }
     const auto device = QSharedPointer<Device>::create();
     device->sourceFile = fileName;
-    SvdExpander expander(&description, meter);
+    SvdExpander expander(&description, &remarks, meter);
     if (!expander.expand(device.data())) {
         return failed(fileName, expander.problem());
     }
@@ -58,16 +67,19 @@ SvdResult readOpen(QIODevice& input, const QString& fileName, SvdProgressMeter* 
     result.cancelled = meter->isCancelled();
     if (!result.cancelled) {
         result.device = device;
+        result.remarks = remarks.messages(description, *device);
+        result.remarkCount = remarks.count();
     }
     return result;
 }
 
 } // namespace
 
-QString SvdError::text() const
+QString SvdMessage::text() const
 {
-    return line > 0 ? QStringLiteral("%1:%2:%3: ").arg(file).arg(line).arg(column) + message
-                    : file + QStringLiteral(": ") + message;
+    const QString place =
+        line > 0 ? file + QStringLiteral(":%1:%2: ").arg(line).arg(column) : file + QStringLiteral(": ");
+    return plainLine(place + message);
 }
 
 SvdResult readSvd(QIODevice& input, const QString& fileName, const SvdProgress& progress)

@@ -4,6 +4,7 @@
 #include "device/Device.h"
 
 #include <QString>
+#include <QVector>
 
 #include <functional>
 
@@ -11,23 +12,27 @@ class QIODevice;
 
 namespace registers {
 
-/// Why a description could not be read.
-struct SvdError
+/// What is wrong with a description: why it could not be read, or a remark.
+struct SvdMessage
 {
     QString file;
     qint64 line = 0;   ///< from 1; 0 when the file could not be read at all
     qint64 column = 0; ///< from 1
-    QString message;   ///< what was wrong, and what was expected
+    QString message;   ///< what was wrong, and what was expected; of a remark also what was taken instead
+    QString path;      ///< of the register that a remark concerns, when the device has it
 
-    /// "file:line:column: message"; without a line "file: message".
+    /// "file:line:column: message"; without a line "file: message". All in one line of plain text.
     QString text() const;
 };
 
-/// Either a device, or one error, or neither when reading was cancelled.
+/// Either a device, or one error, or neither when reading was cancelled. What leaves the rest of a description readable
+/// is no error but a remark.
 struct SvdResult
 {
     DevicePtr device;
-    SvdError error;
+    SvdMessage error;
+    QVector<SvdMessage> remarks; ///< in the file's order, at most 10,000
+    qint64 remarkCount = 0;      ///< how many there are
     bool cancelled = false;
 
     bool isOk() const { return !device.isNull(); }

@@ -3,6 +3,7 @@
 
 #include "svd/SvdNumber.h"
 #include "svd/SvdProgressMeter.h"
+#include "svd/SvdWords.h"
 #include "text/Quoted.h"
 
 #include <QIODevice>
@@ -25,42 +26,6 @@ const QString& numberExpected()
     static const QString text = QStringLiteral("a number such as 64, 0x40 or #1000000, of at most 64 bits");
     return text;
 }
-
-/// Compares keywords without regard to case and to what stands between the words, which vendors mix up. @p folded has lower
-/// case letters only.
-bool isKeyword(QStringView text, const char* folded)
-{
-    for (const QChar c : text) {
-        if (c == QLatin1Char('-') || c == QLatin1Char('_') || c == QLatin1Char('/') || c.isSpace()) {
-            continue;
-        }
-        if (*folded == '\0' || (c != QLatin1Char(*folded) && c.toLower() != QLatin1Char(*folded))) {
-            return false;
-        }
-        ++folded;
-    }
-    return *folded == '\0';
-}
-
-struct AccessKeyword
-{
-    const char* folded;
-    Access access;
-};
-
-// The most frequent one first, and after the schema's own the short forms that are met.
-constexpr AccessKeyword kAccessKeywords[] = {
-    {"readwrite", Access::ReadWrite},
-    {"readonly", Access::ReadOnly},
-    {"writeonly", Access::WriteOnly},
-    {"writeonce", Access::WriteOnce},
-    {"readwriteonce", Access::ReadWriteOnce},
-    {"rw", Access::ReadWrite},
-    {"ro", Access::ReadOnly},
-    {"wo", Access::WriteOnly},
-    {"read", Access::ReadOnly},
-    {"write", Access::WriteOnly},
-};
 
 /// A text in the encoding that its byte order mark names, or else one character a byte.
 QString decoded(const QByteArray& bytes)
@@ -95,8 +60,9 @@ SvdPosition skipSpace(const QByteArray& head, SvdPosition start)
 
 } // namespace
 
-SvdXmlReader::SvdXmlReader(QIODevice& input, SvdProgressMeter& meter)
+SvdXmlReader::SvdXmlReader(QIODevice& input, SvdProgressMeter& meter, SvdRemarks& remarks)
     : m_meter(meter)
+    , m_remarks(remarks)
     , m_head(input.peek(kHeadSize))
 {
     m_xml.setDevice(&input);
@@ -221,19 +187,20 @@ void SvdXmlReader::failInXml()
     fail(position(), QStringLiteral("%1: %2").arg(reason, expected));
 }
 
-/// The present element's text is not what it ought to be.
-void SvdXmlReader::failOnText(const QString& expected)
+void SvdXmlReader::remark(const SvdPosition& position, const QString& found, const char* taken)
 {
-    fail(m_position, QStringLiteral("<%1> is %2, and %3 was expected")
-                         .arg(m_xml.name().toString(), quoted(QStringView(m_text).trimmed()), expected));
+    if (!m_isOver) {
+        m_remarks.add(position, found, taken, m_node);
+    }
 }
 
-void SvdXmlReader::requireName(const QString& name, const SvdPosition& position, const char* element)
+/// The present element's text is not what it ought to be.
+void SvdXmlReader::remarkOnText(const QString& expected, const char* taken)
 {
-    if (name.isEmpty()) {
-        fail(position,
-             QStringLiteral("this <%1> has no name, and a <name> was expected in it").arg(QLatin1String(element)));
-    }
+    remark(m_position,
+           QStringLiteral("<%1> is %2, and %3 was expected")
+               .arg(m_xml.name().toString(), quoted(QStringView(m_text).trimmed()), expected),
+           taken);
 }
 
 /// The text of the present element, which is left behind. It is good until the next text is read.
@@ -272,79 +239,62 @@ QString SvdXmlReader::readReference()
     return QString();
 }
 
-std::optional<quint64> SvdXmlReader::readNumber()
+std::optional<quint64> SvdXmlReader::readNumber(const char* taken, quint64 least)
 {
-    const std::optional<quint64> number = parseSvdNumber(readText());
+    std::optional<quint64> number = parseSvdNumber(readText());
     if (!number) {
-        failOnText(numberExpected());
+        remarkOnText(numberExpected(), taken);
+    } else if (*number < least) {
+        remarkOnText(QStringLiteral("a number of at least %1").arg(least), taken);
+        number.reset();
     }
     return number;
 }
 
-// An element that only keywords can fill and that is empty says nothing, as if it were not there.
+// An element that only words can fill and that is empty says nothing, as if it were not there.
 
 std::optional<Access> SvdXmlReader::readAccess()
 {
-    const QStringView text = readText();
-    if (text.trimmed().isEmpty()) {
-        return std::nullopt;
-    }
-    for (const AccessKeyword& keyword : kAccessKeywords) {
-        if (isKeyword(text, keyword.folded)) {
-            return keyword.access;
-        }
-    }
-    failOnText(QStringLiteral("read-only, write-only, read-write, writeOnce or read-writeOnce"));
-    return std::nullopt;
+    return readWord(parseSvdAccess, "read-only, write-only, read-write, writeOnce or read-writeOnce", kInherited);
 }
 
 std::optional<RawUsage> SvdXmlReader::readUsage()
 {
-    const QStringView text = readText();
-    if (isKeyword(text, "read")) {
-        return RawUsage::Read;
-    }
-    if (isKeyword(text, "write")) {
-        return RawUsage::Write;
-    }
-    if (isKeyword(text, "readwrite")) {
-        return RawUsage::ReadWrite;
-    }
-    if (!text.trimmed().isEmpty()) {
-        failOnText(QStringLiteral("read, write or read-write"));
-    }
-    return std::nullopt;
+    return readWord(parseSvdUsage, "read, write or read-write", kNotSaid);
 }
 
 bool SvdXmlReader::readBool()
 {
-    const QStringView text = readText();
-    const std::optional<bool> value = parseSvdBool(text);
-    if (!value && !text.trimmed().isEmpty()) {
-        failOnText(QStringLiteral("true, false, 1 or 0"));
-    }
-    return value.value_or(false);
+    return readWord(parseSvdBool, "true, false, 1 or 0", kNotSaid).value_or(false);
 }
 
-/// Every kind of read action counts alike, and so does a word that the schema does not know: reading changes
-/// something.
 bool SvdXmlReader::readReadAction()
 {
-    const QStringView text = readText();
-    return !text.trimmed().isEmpty() && !isKeyword(text, "none");
+    return readWord(parseSvdReadAction, "clear, set, modify or modifyExternal", kNotSaid).value_or(false);
 }
 
-qint32 SvdXmlReader::readBit(qint32 limit, const char* meaning)
+/// A bit from 0 to @p limit.
+qint32 SvdXmlReader::readBit(qint32 limit)
+{
+    return readSmall(0, limit, "a bit");
+}
+
+qint32 SvdXmlReader::readWidth()
+{
+    return readSmall(1, kBitLimit, "a width");
+}
+
+qint32 SvdXmlReader::readSmall(qint32 least, qint32 most, const char* meaning)
 {
     const std::optional<quint64> number = parseSvdNumber(readText());
-    if (!number || *number > quint64(limit)) {
-        failOnText(QStringLiteral("%1 from 0 to %2").arg(QLatin1String(meaning)).arg(limit));
-        return -1;
+    if (number && *number >= quint64(least) && *number <= quint64(most)) {
+        return qint32(*number);
     }
-    return qint32(*number);
+    remarkOnText(QStringLiteral("%1 from %2 to %3").arg(QLatin1String(meaning)).arg(least).arg(most), kFieldLeftOut);
+    return -1;
 }
 
-void SvdXmlReader::readBitRange(RawBits* bits)
+bool SvdXmlReader::readBitRange(RawBits* bits)
 {
     QStringView text = readText().trimmed();
     if (text.startsWith(QLatin1Char('[')) && text.endsWith(QLatin1Char(']'))) {
@@ -358,9 +308,10 @@ void SvdXmlReader::readBitRange(RawBits* bits)
         bits->msb = qint32(*msb);
         bits->lsb = qint32(*lsb);
         bits->lsbIsOffset = false;
-        return;
+        return true;
     }
-    failOnText(QStringLiteral("[msb:lsb] with msb not below lsb, lsb below 64 and at most 64 bits"));
+    remarkOnText(QStringLiteral("[msb:lsb] with msb not below lsb, lsb below 64 and at most 64 bits"), kFieldLeftOut);
+    return false;
 }
 
 } // namespace registers

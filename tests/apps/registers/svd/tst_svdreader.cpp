@@ -61,7 +61,7 @@ class tst_SvdReader : public QObject
 
 private Q_SLOTS:
     void theDeviceSaysWhatItIs();
-    void aDeviceWithoutPeripheralsIsFine();
+    void aDeviceWithoutRegistersIsFine();
     void anyEncodingIsRead_data();
     void anyEncodingIsRead();
     void anyLineEndIsRead_data();
@@ -101,7 +101,8 @@ void tst_SvdReader::theDeviceSaysWhatItIs()
 {
     const SvdResult result =
         read("<device><vendor>V</vendor><name>N</name><version>1.0</version><description>A device</description>"
-             "</device>");
+             "<peripherals>" +
+             peripheral("P", "") + "</peripherals></device>");
     VERIFY_READ(result);
     QCOMPARE(result.device->name, QStringLiteral("N"));
     QCOMPARE(result.device->vendor, QStringLiteral("V"));
@@ -110,19 +111,20 @@ void tst_SvdReader::theDeviceSaysWhatItIs()
     QCOMPARE(result.device->sourceFile, QStringLiteral("test.svd"));
 }
 
-void tst_SvdReader::aDeviceWithoutPeripheralsIsFine()
+void tst_SvdReader::aDeviceWithoutRegistersIsFine()
 {
-    const SvdResult result = read("<device><name>N</name><peripherals/></device>");
+    const SvdResult result = read(device(peripheral("P", "")));
     VERIFY_READ(result);
     QCOMPARE(result.device->registerCount(), 0);
-    QCOMPARE(result.device->nodes().size(), 1);
+    QCOMPARE(result.device->nodes().size(), 2);
 }
 
 void tst_SvdReader::anyEncodingIsRead_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
-    const QString body = QStringLiteral("<device><name>Gr\u00F6\u00DFe</name></device>");
+    const QString body = QStringLiteral("<device><name>Gr\u00F6\u00DFe</name><peripherals>") +
+                         QString::fromLatin1(peripheral("P", "")) + QStringLiteral("</peripherals></device>");
     const auto declared = [&body](const char* name) {
         return QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?>").arg(QLatin1String(name)) + body;
     };
@@ -161,9 +163,10 @@ void tst_SvdReader::anyLineEndIsRead()
     VERIFY_READ(result);
     QCOMPARE(places(*result.device), QStringList{QStringLiteral("P.R@1004")});
 
-    const SvdResult failed = read(QByteArray(kPlain).replace("0x1000", "zzz").replace("\n", lineEnd));
-    QCOMPARE(failed.error.line, qint64(6));
-    QCOMPARE(failed.error.column, qint64(4));
+    const SvdResult remarked = read(QByteArray(kPlain).replace("0x1000", "zzz").replace("\n", lineEnd));
+    QCOMPARE(remarked.remarks.size(), 1);
+    QCOMPARE(remarked.remarks.at(0).line, qint64(6));
+    QCOMPARE(remarked.remarks.at(0).column, qint64(4));
 }
 
 void tst_SvdReader::elementsMayComeInAnyOrder()
@@ -188,7 +191,8 @@ void tst_SvdReader::commentsSectionsAndEntitiesAreRead()
     const SvdResult result =
         read("<?xml version=\"1.0\"?>\n<!-- before -->\n<!DOCTYPE device [<!ENTITY unit \"the unit\">]>\n"
              "<device><name>D<!-- within -->EV</name>"
-             "<description>a &lt; b &amp;&amp; <![CDATA[c > <d>]]> of &unit; &#x41;</description></device>");
+             "<description>a &lt; b &amp;&amp; <![CDATA[c > <d>]]> of &unit; &#x41;</description><peripherals>" +
+             peripheral("P", "") + "</peripherals></device>");
     VERIFY_READ(result);
     QCOMPARE(result.device->name, QStringLiteral("DEV"));
     QCOMPARE(result.device->description, QStringLiteral("a < b && c > <d> of the unit A"));
@@ -249,7 +253,9 @@ void tst_SvdReader::whatIsNotNeededIsReadPast()
 void tst_SvdReader::anUndeclaredPrefixDoesNotMatter()
 {
     const SvdResult result =
-        read("<device xs:noNamespaceSchemaLocation=\"CMSIS-SVD.xsd\" schemaVersion=\"1.3\"><name>N</name></device>");
+        read("<device xs:noNamespaceSchemaLocation=\"CMSIS-SVD.xsd\" schemaVersion=\"1.3\"><name>N</name>"
+             "<peripherals>" +
+             peripheral("P", "") + "</peripherals></device>");
     VERIFY_READ(result);
     QCOMPARE(result.device->name, QStringLiteral("N"));
 }
@@ -367,9 +373,10 @@ void tst_SvdReader::bitsAreStatedInAnyWay_data()
     QTest::addColumn<QByteArray>("bits");
     QTest::addColumn<int>("lsb");
     QTest::addColumn<int>("width");
+    QTest::addColumn<int>("size");
 
-    const auto row = [](const char* name, const char* bits, int lsb, int width) {
-        QTest::newRow(name) << QByteArray(bits) << lsb << width;
+    const auto row = [](const char* name, const char* bits, int lsb, int width, int size = 32) {
+        QTest::newRow(name) << QByteArray(bits) << lsb << width << size;
     };
     row("offset and width", "<bitOffset>4</bitOffset><bitWidth>3</bitWidth>", 4, 3);
     row("width before offset", "<bitWidth>3</bitWidth><bitOffset>4</bitOffset>", 4, 3);
@@ -382,7 +389,7 @@ void tst_SvdReader::bitsAreStatedInAnyWay_data()
     row("all 64 bits", "<bitRange>[63:0]</bitRange>", 0, 64);
     row("hexadecimal numbers", "<bitOffset>0x1F</bitOffset><bitWidth>#10</bitWidth>", 31, 2);
     row("a field that reaches beyond its register stays as it is stated", "<bitRange>[35:28]</bitRange>", 28, 8);
-    row("a field that reaches beyond 64 bits stays as it is stated", "<lsb>60</lsb><msb>70</msb>", 60, 11);
+    row("a field that reaches beyond 64 bits stays as it is stated", "<lsb>60</lsb><msb>70</msb>", 60, 11, 64);
 }
 
 void tst_SvdReader::bitsAreStatedInAnyWay()
@@ -390,7 +397,9 @@ void tst_SvdReader::bitsAreStatedInAnyWay()
     QFETCH(QByteArray, bits);
     QFETCH(int, lsb);
     QFETCH(int, width);
-    const SvdResult result = read(deviceOfFields(field("F", bits)));
+    QFETCH(int, size);
+    const SvdResult result =
+        read(deviceOf(reg("R", "<size>" + QByteArray::number(size) + "</size>", field("F", bits))));
     VERIFY_READ(result);
     const Field& only = result.device->registerAt(0).fields.at(0);
     QCOMPARE(int(only.lsb), lsb);
