@@ -1,29 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
-#include "device/DeviceExport.h"
-#include "device/DeviceImport.h"
-#include "text/Numbers.h"
+#include "session/Session.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
 #include <QFileInfo>
-#include <QTextStream>
 
-#include <utility>
+#include <optional>
 
 namespace registers {
 
 namespace {
-
-constexpr int kMostUnplacedNamed = 20;
-
-/// A --set that is known to be possible.
-struct Setting
-{
-    PathTarget target;
-    quint64 value = 0;
-};
 
 CommandLine failedCommandLine(const QString& reason)
 {
@@ -42,69 +30,6 @@ std::optional<SetRequest> splitSet(const QString& text)
     return SetRequest{text.left(equals), text.mid(equals + 1)};
 }
 
-PathTarget findTarget(const Device& device, const QString& path, QString* error)
-{
-    const PathTarget target = device.find(path);
-    if (!target.isValid()) {
-        *error = QStringLiteral("unknown path \"%1\": %2").arg(path, device.explainMissing(path));
-    }
-    return target;
-}
-
-/// What a target allows: its access, and the largest value that fits.
-struct TargetLimits
-{
-    Access access = Access::ReadWrite;
-    quint64 largest = 0;
-};
-
-TargetLimits limitsOf(const Device& device, const PathTarget& target)
-{
-    const Register& reg = device.registerAt(target.registerIndex);
-    if (!target.isField()) {
-        return {reg.access, reg.valueMask()};
-    }
-    const Field& field = reg.fields.at(target.fieldIndex);
-    return {field.access, largestFieldValue(reg, field)};
-}
-
-std::optional<Setting> checkSet(const Device& device, const SetRequest& request, QString* error)
-{
-    const PathTarget target = findTarget(device, request.path, error);
-    if (!target.isValid()) {
-        return std::nullopt;
-    }
-    const TargetLimits limits = limitsOf(device, target);
-    if (!isWritable(limits.access)) {
-        *error = QStringLiteral("\"%1\" is read-only and cannot be set").arg(request.path);
-        return std::nullopt;
-    }
-    const std::optional<quint64> value = parsePlainNumber(request.number);
-    if (!value) {
-        *error = QStringLiteral("\"%1\" for \"%2\" is not a number; a decimal number, 0x... or 0b... of at most "
-                                "64 bits was expected")
-                     .arg(request.number, request.path);
-        return std::nullopt;
-    }
-    if (*value > limits.largest) {
-        *error = QStringLiteral("%1 does not fit into \"%2\", which holds at most %3")
-                     .arg(request.number, request.path, hexNumber(limits.largest, 1));
-        return std::nullopt;
-    }
-    return Setting{target, *value};
-}
-
-QString couldNotLoad(const QString& fileName, const QVector<Unplaced>& unplaced)
-{
-    QString text =
-        QStringLiteral("%1: %2 of its registers cannot be loaded:\n").arg(fileName, QString::number(unplaced.size())) +
-        unplacedText(unplaced.mid(0, kMostUnplacedNamed));
-    if (unplaced.size() > kMostUnplacedNamed) {
-        text += QStringLiteral("\nand %1 more").arg(unplaced.size() - kMostUnplacedNamed);
-    }
-    return text;
-}
-
 struct Options
 {
     QCommandLineOption load{QStringLiteral("load"),
@@ -121,6 +46,10 @@ struct Options
                                   QStringLiteral("OUT.png")};
     QCommandLineOption select{QStringLiteral("select"), QStringLiteral("Select a register or a field."),
                               QStringLiteral("PATH")};
+    QCommandLineOption check{QStringLiteral("check"),
+                             QStringLiteral("List all remarks on the description, one a line, and end: 0 without any, "
+                                            "1 with some, 2 if it cannot be read.")};
+    QCommandLineOption strict{QStringLiteral("strict"), QStringLiteral("Refuse a description at its first remark.")};
 };
 
 void describe(QCommandLineParser* parser, const Options& options)
@@ -128,10 +57,13 @@ void describe(QCommandLineParser* parser, const Options& options)
     parser->setApplicationDescription(
         QStringLiteral("Shows and edits the registers that a CMSIS-SVD file describes.\n\n"
                        "A PATH is PERIPHERAL.REGISTER, PERIPHERAL.CLUSTER.REGISTER, or either of them followed "
-                       "by .FIELD."));
+                       "by .FIELD.\n\n"
+                       "What is wrong in a description and leaves the rest readable is a remark, and the file "
+                       "opens."));
     parser->addHelpOption();
     parser->addVersionOption();
-    parser->addOptions({options.load, options.set, options.exportFile, options.screenshot, options.select});
+    parser->addOptions({options.load, options.set, options.exportFile, options.screenshot, options.select,
+                        options.check, options.strict});
     parser->addPositionalArgument(QStringLiteral("FILE.svd"),
                                   QStringLiteral("The description to open; a sample device without it."),
                                   QStringLiteral("[FILE.svd]"));
@@ -186,26 +118,17 @@ bool areOneFile(const QString& first, const QString& second)
            QFileInfo(first).absoluteFilePath() == QFileInfo(second).absoluteFilePath();
 }
 
-/// Everything that is to be written, none of it written yet.
-bool produceOutputs(const CommandLine& commandLine, const Session& session, const ScreenshotRenderer& renderer,
-                    QVector<OutputFile>* outputs, QString* error)
+/// Why the options do not go together, or nothing.
+QString conflictOf(const CommandLine& commandLine)
 {
-    if (!commandLine.exportFile.isEmpty()) {
-        outputs->append({commandLine.exportFile, exportJson(*session.state)});
+    if (areOneFile(commandLine.exportFile, commandLine.screenshotFile)) {
+        return QStringLiteral("--export and --screenshot name one file; two were expected");
     }
-    if (commandLine.screenshotFile.isEmpty()) {
-        return true;
-    }
-    QByteArray png;
-    if (!renderer) {
-        *error = QStringLiteral("%1: screenshots are not possible here").arg(commandLine.screenshotFile);
-        return false;
-    }
-    if (!renderer(session, &png, error)) {
-        return false;
-    }
-    outputs->append({commandLine.screenshotFile, png});
-    return true;
+    const bool doesMore = commandLine.wantsBatch() || !commandLine.loadFile.isEmpty() || !commandLine.sets.isEmpty() ||
+                          !commandLine.selectPath.isEmpty();
+    return commandLine.check && doesMore
+               ? QStringLiteral("--check reads the description and does nothing else; only --strict goes with it")
+               : QString();
 }
 
 } // namespace
@@ -241,86 +164,12 @@ CommandLine parseCommandLine(const QStringList& arguments)
                           takeSingle(parser, options.exportFile, &result.exportFile, &error) &&
                           takeSingle(parser, options.screenshot, &result.screenshotFile, &error) &&
                           takeSingle(parser, options.select, &result.selectPath, &error);
-    if (isUsable && areOneFile(result.exportFile, result.screenshotFile)) {
-        error = QStringLiteral("--export and --screenshot name one file; two were expected");
+    result.check = parser.isSet(options.check);
+    result.strict = parser.isSet(options.strict);
+    if (isUsable) {
+        error = conflictOf(result);
     }
     return error.isEmpty() ? result : failedCommandLine(error);
-}
-
-bool applyLoad(DeviceState& state, const QString& fileName, QString* error)
-{
-    const ImportResult read = readExportFile(fileName, state);
-    if (!read.isOk()) {
-        *error = read.error;
-        return false;
-    }
-    if (!read.unplaced.isEmpty()) {
-        *error = couldNotLoad(fileName, read.unplaced);
-        return false;
-    }
-    state.setValues(read.values);
-    return true;
-}
-
-bool applySets(const Device& device, DeviceState& state, const QVector<SetRequest>& sets, QString* error)
-{
-    QVector<Setting> settings;
-    settings.reserve(sets.size());
-    for (const SetRequest& request : sets) {
-        const std::optional<Setting> setting = checkSet(device, request, error);
-        if (!setting) {
-            return false;
-        }
-        settings.append(*setting);
-    }
-    for (const Setting& setting : settings) {
-        if (setting.target.isField()) {
-            state.setField(setting.target.registerIndex, setting.target.fieldIndex, setting.value);
-        } else {
-            state.setValue(setting.target.registerIndex, setting.value);
-        }
-    }
-    return true;
-}
-
-bool openSession(const CommandLine& commandLine, Session* session, QString* error, const SvdProgress& progress)
-{
-    const SvdResult read = readSvdFile(commandLine.descriptionFile(), progress);
-    if (!read.isOk()) {
-        *error = read.cancelled ? QStringLiteral("reading was cancelled") : read.error.text();
-        return false;
-    }
-    Session opened;
-    opened.device = read.device;
-    opened.state = std::make_unique<DeviceState>(read.device);
-    if (!commandLine.loadFile.isEmpty() && !applyLoad(*opened.state, commandLine.loadFile, error)) {
-        return false;
-    }
-    if (!applySets(*opened.device, *opened.state, commandLine.sets, error)) {
-        return false;
-    }
-    if (!commandLine.selectPath.isEmpty()) {
-        opened.selection = findTarget(*opened.device, commandLine.selectPath, error);
-        if (!opened.selection.isValid()) {
-            return false;
-        }
-    }
-    *session = std::move(opened);
-    return true;
-}
-
-int runBatch(const CommandLine& commandLine, QTextStream& errors, const ScreenshotRenderer& renderer)
-{
-    Session session;
-    QVector<OutputFile> outputs;
-    QString error;
-    const bool isDone = openSession(commandLine, &session, &error) &&
-                        produceOutputs(commandLine, session, renderer, &outputs, &error) && saveFiles(outputs, &error);
-    if (!isDone) {
-        errors << "tessera-registers: " << error << '\n';
-        errors.flush();
-    }
-    return isDone ? kExitOk : kExitBadUse;
 }
 
 } // namespace registers

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "CommandLine.h"
+#include "CommandRun.h"
 #include "common/QtArguments.h"
 #include "common/Start.h"
 #include "look/Icons.h"
+#include "text/Quoted.h"
 #include "window/MainWindow.h"
 #include "window/Screenshot.h"
 #include "window/Settings.h"
@@ -26,7 +27,7 @@ std::optional<int> runWithoutWindow(const CommandLine& commandLine)
     QTextStream errors(stderr);
     switch (commandLine.action) {
     case CommandLine::Action::Fail:
-        errors << QCoreApplication::applicationName() << ": " << commandLine.text << '\n';
+        errors << QCoreApplication::applicationName() << ": " << plainLines(commandLine.text) << '\n';
         return kExitBadUse;
     case CommandLine::Action::ShowHelp:
     case CommandLine::Action::ShowVersion:
@@ -34,6 +35,9 @@ std::optional<int> runWithoutWindow(const CommandLine& commandLine)
         return kExitOk;
     case CommandLine::Action::Run:
         break;
+    }
+    if (commandLine.check) {
+        return runCheck(commandLine, output, errors);
     }
     if (commandLine.wantsBatch() && commandLine.screenshotFile.isEmpty()) {
         return runBatch(commandLine, errors);
@@ -50,8 +54,11 @@ int runWithWindow(const CommandLine& commandLine)
     Session session;
     QString error;
     if (!openSession(commandLine, &session, &error)) {
-        errors << QCoreApplication::applicationName() << ": " << error << '\n';
+        errors << QCoreApplication::applicationName() << ": " << plainLines(error) << '\n';
         return kExitBadUse;
+    }
+    if (session.remarkCount > 0) {
+        errors << remarksLine(commandLine.descriptionFile(), session.remarkCount) << Qt::endl;
     }
     useChosenFont();
     MainWindow window;

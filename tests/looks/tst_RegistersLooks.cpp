@@ -4,7 +4,7 @@
 #include "TestSupport.h"
 #include "Walk.h"
 
-#include "CommandLine.h"
+#include "CommandRun.h"
 #include "common/Screenshot.h"
 #include "device/DeviceImport.h"
 #include "tree/DevicePanel.h"

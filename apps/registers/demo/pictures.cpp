@@ -3,7 +3,7 @@
 //
 //   registers-pictures FOLDER
 
-#include "CommandLine.h"
+#include "CommandRun.h"
 #include "look/Icons.h"
 #include "session/DeviceEdits.h"
 #include "tree/DevicePanel.h"

@@ -9,6 +9,16 @@ static void initializeResources()
 
 namespace registers {
 
+Session sessionOf(const SvdResult& read)
+{
+    Session session;
+    session.device = read.device;
+    session.state = std::make_unique<DeviceState>(read.device);
+    session.remarks = read.remarks;
+    session.remarkCount = read.remarkCount;
+    return session;
+}
+
 QString sampleFileName()
 {
     initializeResources();

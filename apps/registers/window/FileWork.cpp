@@ -98,7 +98,7 @@ bool FileWork::open(const QString& fileName)
         showError(m_window, tr("The file cannot be opened"), result.error.text());
         return false;
     }
-    Q_EMIT opened(result.device);
+    Q_EMIT opened(result);
     return true;
 }
 

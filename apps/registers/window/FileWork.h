@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "device/Device.h"
+#include "svd/SvdReader.h"
 
 #include <QObject>
 #include <QString>
@@ -48,7 +48,7 @@ public:
 
 Q_SIGNALS:
     /// A description has been read.
-    void opened(const registers::DevicePtr& device);
+    void opened(const registers::SvdResult& read);
     /// The values of the device have been written.
     void saved();
     /// Reading goes on long enough to be seen, and has ended.

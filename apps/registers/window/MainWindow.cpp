@@ -112,9 +112,7 @@ void MainWindow::initToolBar()
 
 void MainWindow::initConnect()
 {
-    connect(m_files, &FileWork::opened, this, [this](const DevicePtr& device) {
-        setSession({device, std::make_unique<DeviceState>(device), {}});
-    });
+    connect(m_files, &FileWork::opened, this, [this](const SvdResult& read) { setSession(sessionOf(read)); });
     connect(m_files, &FileWork::saved, this, &MainWindow::markEdited);
     connect(m_files, &FileWork::readingStarted, this, &MainWindow::updateState);
     connect(m_files, &FileWork::readingFinished, this, &MainWindow::updateState);

@@ -16,7 +16,8 @@ namespace {
 
 Session copyOf(const Session& session)
 {
-    Session copy{session.device, std::make_unique<DeviceState>(session.device), session.selection};
+    Session copy{session.device, std::make_unique<DeviceState>(session.device), session.selection, session.remarks,
+                 session.remarkCount};
     for (int i = 0; i < session.device->registerCount(); ++i) {
         copy.state->setValue(i, session.state->value(i));
     }

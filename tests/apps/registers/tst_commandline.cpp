@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "CommandLine.h"
+#include "CommandRun.h"
 #include "support/TestMain.h"
 #include "SvdTestSupport.h"
 
@@ -91,9 +91,19 @@ private Q_SLOTS:
     void aScreenshotComesFromTheRenderer();
     void aWrongCallWritesNothing_data();
     void aWrongCallWritesNothing();
+    void aCheckListsAllRemarks();
+    void aCheckWithoutRemarksIsSilent();
+    void aCheckOfARefusedDescriptionFails_data();
+    void aCheckOfARefusedDescriptionFails();
+    void aCheckListsManyRemarks();
+    void strictRefusesAtTheFirstRemark();
+    void strictTakesADescriptionWithoutRemarks();
+    void withoutACheckOneLineTellsOfRemarks();
+    void aFailureTellsOfRemarksToo();
+    void aTerminalIsNotSteered();
 
 private:
-    QString path(const char* name) const { return m_dir->filePath(QString::fromLatin1(name)); }
+    QString path(const char* name) const { return m_dir->filePath(QString::fromUtf8(name)); }
     CommandLine batch(const QStringList& more) const;
     /// Writes a file of @p entries to load; it was made for the device "Dev".
     void writeRegisters(const QByteArray& entries) const;
@@ -187,6 +197,11 @@ void tst_CommandLine::wrongArgumentsAreRefused_data()
     row("no file to load", {QStringLiteral("--load"), QString()}, "--load");
     row("a set without a number", split("--set A.B"), "PATH=NUMBER");
     row("a set without a path", split("--set =1"), "PATH=NUMBER");
+    row("a check that writes", split("--check --export a"), "--check");
+    row("a check that draws", split("--check --screenshot a"), "--check");
+    row("a check that sets", split("--check --set A.B=1"), "--check");
+    row("a check that loads", split("--check --load a"), "--check");
+    row("a check that selects", split("--check --select A.B"), "--check");
     row("one file for both", split("--export a/../x --screenshot ./x"), "one file");
 }
 
@@ -203,7 +218,8 @@ void tst_CommandLine::helpAndVersionAreTexts()
 {
     const CommandLine help = parse(split("--help"));
     QCOMPARE(int(help.action), int(CommandLine::Action::ShowHelp));
-    for (const char* part : {"--load", "--set", "--export", "--screenshot", "--select", "FILE.svd", "PATH=NUMBER"}) {
+    for (const char* part : {"--load", "--set", "--export", "--screenshot", "--select", "--check", "--strict",
+                             "FILE.svd", "PATH=NUMBER"}) {
         QVERIFY(help.text.contains(QLatin1String(part)));
     }
     const CommandLine version = parse(split("--version"));
@@ -524,6 +540,155 @@ void tst_CommandLine::aWrongCallWritesNothing()
     QCOMPARE(readFile(path("out.json")), QByteArray("old"));
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files),
              (QStringList{QStringLiteral("device.svd"), QStringLiteral("out.json")}));
+}
+
+namespace {
+
+QByteArray remarkedDevice()
+{
+    return deviceOf("\n " + reg("R", "<access>read/clear</access>") +
+                    "\n<register><name>S</name><addressOffset>here</addressOffset></register>");
+}
+
+/// What the program answers with.
+struct Answer
+{
+    int exitCode = -1;
+    QString output;
+    QString errors;
+};
+
+Answer check(const QStringList& arguments)
+{
+    const CommandLine commandLine = parse(QStringList{QStringLiteral("--check")} + arguments);
+    Answer answer;
+    QTextStream output(&answer.output);
+    QTextStream errors(&answer.errors);
+    answer.exitCode = runCheck(commandLine, output, errors);
+    return answer;
+}
+
+Answer runInBatch(const CommandLine& commandLine)
+{
+    Answer answer;
+    QTextStream errors(&answer.errors);
+    answer.exitCode = runBatch(commandLine, errors);
+    return answer;
+}
+
+} // namespace
+
+void tst_CommandLine::aCheckListsAllRemarks()
+{
+    writeFile(path("device.svd"), remarkedDevice());
+    const Answer answer = check({path("device.svd")});
+    QCOMPARE(answer.errors, QString());
+    QCOMPARE(answer.output,
+             QStringLiteral("%1:2:58: <access> is \"read/clear\", and read-only, write-only, read-write, writeOnce or "
+                            "read-writeOnce was expected; it counts as not said, so what stands above holds\n"
+                            "%1:3:25: <addressOffset> is \"here\", and a number such as 64, 0x40 or #1000000, of at "
+                            "most 64 bits was expected; the register is left out\n")
+                 .arg(path("device.svd")));
+    QCOMPARE(answer.exitCode, 1);
+}
+
+void tst_CommandLine::aCheckWithoutRemarksIsSilent()
+{
+    for (const QStringList& arguments : {QStringList{path("device.svd")}, QStringList()}) {
+        const Answer answer = check(arguments);
+        QCOMPARE(answer.output + answer.errors, QString());
+        QCOMPARE(answer.exitCode, 0);
+    }
+}
+
+void tst_CommandLine::aCheckOfARefusedDescriptionFails_data()
+{
+    QTest::addColumn<QByteArray>("description");
+    QTest::addColumn<QString>("expected"); // behind the file's name
+
+    QTest::newRow("no device") << QByteArray("<package/>") << QStringLiteral(":1:1: the root element is <package>, ");
+    QTest::newRow("no peripherals") << device("") << QStringLiteral(":1:1: this <device> has no <peripheral>, ");
+    QTest::newRow("no end, behind a remark") << remarkedDevice().chopped(9) << QStringLiteral(":3:");
+}
+
+void tst_CommandLine::aCheckOfARefusedDescriptionFails()
+{
+    QFETCH(QByteArray, description);
+    QFETCH(QString, expected);
+    writeFile(path("device.svd"), description);
+    const Answer answer = check({path("device.svd")});
+    QCOMPARE(answer.output, QString());
+    QVERIFY2(answer.errors.startsWith(QStringLiteral("tessera-registers: ") + path("device.svd") + expected),
+             qPrintable(answer.errors));
+    QCOMPARE(answer.exitCode, 2);
+}
+
+void tst_CommandLine::aCheckListsManyRemarks()
+{
+    writeFile(path("device.svd"), deviceOf(QByteArray("<register/>\n").repeated(10007)));
+    const Answer answer = check({path("device.svd")});
+    QCOMPARE(answer.output.count(QLatin1Char('\n')), 10001);
+    QVERIFY(answer.output.endsWith(QLatin1Char('\n') + path("device.svd") + QStringLiteral(": and 7 more\n")));
+    QCOMPARE(answer.exitCode, 1);
+}
+
+void tst_CommandLine::strictRefusesAtTheFirstRemark()
+{
+    writeFile(path("device.svd"), remarkedDevice());
+    writeFile(path("out.json"), "old");
+    const QString expected = QStringLiteral("tessera-registers: %1:2:58: <access> is ").arg(path("device.svd"));
+    const QStringList strict{QStringLiteral("--strict")};
+    for (const Answer& answer : {runInBatch(batch(strict)), check(strict + QStringList{path("device.svd")})}) {
+        QVERIFY2(answer.errors.startsWith(expected), qPrintable(answer.errors));
+        QCOMPARE(answer.errors.count(QLatin1Char('\n')), 1);
+        QCOMPARE(answer.output, QString());
+        QCOMPARE(answer.exitCode, 2);
+    }
+    QCOMPARE(readFile(path("out.json")), QByteArray("old"));
+}
+
+void tst_CommandLine::strictTakesADescriptionWithoutRemarks()
+{
+    const Answer answer = runInBatch(batch({QStringLiteral("--strict")}));
+    QCOMPARE(answer.errors, QString());
+    QCOMPARE(answer.exitCode, 0);
+    QVERIFY(QFile::exists(path("out.json")));
+}
+
+void tst_CommandLine::withoutACheckOneLineTellsOfRemarks()
+{
+    writeFile(path("device.svd"), remarkedDevice());
+    const Answer several = runInBatch(batch({}));
+    QCOMPARE(several.errors, path("device.svd") + QStringLiteral(": 2 remarks; --check lists them\n"));
+    QCOMPARE(several.exitCode, 0);
+    QVERIFY(readFile(path("out.json")).contains("P.R"));
+
+    writeFile(path("device.svd"), deviceOf(reg("R", "<size>?</size>")));
+    QCOMPARE(runInBatch(batch({})).errors, path("device.svd") + QStringLiteral(": 1 remark; --check lists it\n"));
+}
+
+void tst_CommandLine::aFailureTellsOfRemarksToo()
+{
+    writeFile(path("device.svd"), remarkedDevice());
+    const Answer answer = runInBatch(batch(split("--set P.S=1")));
+    const QStringList lines = answer.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 2);
+    QVERIFY2(lines.at(0).startsWith(QStringLiteral("tessera-registers: unknown path \"P.S\"")),
+             qPrintable(lines.at(0)));
+    QCOMPARE(lines.at(1), path("device.svd") + QStringLiteral(": 2 remarks; --check lists them"));
+    QCOMPARE(answer.exitCode, 2);
+}
+
+void tst_CommandLine::aTerminalIsNotSteered()
+{
+    const QString odd = path("a\u001B[31m\u202E.svd");
+    writeFile(odd, deviceOf(reg("R", "<size>\xC2\x9B"
+                                     "31m</size>")));
+    const QString shown = path("a\\u001B[31m\\u202E.svd");
+    QVERIFY(check({odd}).output.startsWith(shown + QStringLiteral(":1:")));
+    QVERIFY(check({odd}).output.contains(QStringLiteral("<size> is \"\\u009B31m\", ")));
+    const Answer missing = runInBatch(batch({QStringLiteral("--set"), QStringLiteral("P.\u009B=1")}));
+    QVERIFY2(missing.errors.contains(QStringLiteral("\"P.\\u009B\"")), qPrintable(missing.errors));
 }
 
 TESSERA_TEST_GUILESS_MAIN(tst_CommandLine)

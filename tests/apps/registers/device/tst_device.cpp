@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "CommandLine.h"
+#include "session/Session.h"
 #include "support/TestMain.h"
 #include "SvdTestSupport.h"
 

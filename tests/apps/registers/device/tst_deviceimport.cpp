@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "CommandLine.h"
 #include "device/DeviceExport.h"
 #include "device/DeviceImport.h"
+#include "session/Session.h"
 #include "support/TestMain.h"
 #include "SvdTestSupport.h"
 #include "text/Numbers.h"
