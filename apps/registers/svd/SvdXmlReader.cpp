@@ -7,6 +7,8 @@
 #include "text/Quoted.h"
 
 #include <QIODevice>
+
+#include <algorithm>
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
 #else
@@ -27,20 +29,21 @@ const QString& numberExpected()
     return text;
 }
 
-/// A text in the encoding that its byte order mark names, or else one character a byte.
-QString decoded(const QByteArray& bytes)
+/// A text in the encoding that its byte order mark names, or else UTF-8 or one character a byte.
+QString decoded(const QByteArray& bytes, bool isUtf8)
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    return QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("ISO-8859-1"))->toUnicode(bytes);
+    const char* const otherwise = isUtf8 ? "UTF-8" : "ISO-8859-1";
+    return QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName(otherwise))->toUnicode(bytes);
 #else
-    return QStringDecoder(QStringConverter::encodingForData(bytes).value_or(QStringConverter::Latin1)).decode(bytes);
+    const QStringConverter::Encoding otherwise = isUtf8 ? QStringConverter::Utf8 : QStringConverter::Latin1;
+    return QStringDecoder(QStringConverter::encodingForData(bytes).value_or(otherwise)).decode(bytes);
 #endif
 }
 
-/// The position of the first character in @p head that is no white space, from @p start on.
-SvdPosition skipSpace(const QByteArray& head, SvdPosition start)
+/// The position of the first character in @p text that is no white space, from @p start on.
+SvdPosition skipSpace(const QString& text, SvdPosition start)
 {
-    const QString text = decoded(head);
     SvdPosition at{1, 1};
     for (int i = 0; i < text.size(); ++i) {
         const QChar c = text.at(i);
@@ -64,8 +67,9 @@ SvdXmlReader::SvdXmlReader(QIODevice& input, SvdProgressMeter& meter, SvdRemarks
     : m_meter(meter)
     , m_remarks(remarks)
     , m_head(input.peek(kHeadSize))
+    , m_input(input)
 {
-    m_xml.setDevice(&input);
+    m_xml.setDevice(&m_input);
     // Prefixes mean nothing in this format, and files that use one without declaring it shall be read.
     m_xml.setNamespaceProcessing(false);
     // Without a reservation every QString::resize(0) would give the memory back.
@@ -76,6 +80,9 @@ QXmlStreamReader::TokenType SvdXmlReader::advance()
 {
     const QXmlStreamReader::TokenType token = m_xml.readNext();
     switch (token) {
+    case QXmlStreamReader::StartDocument:
+        noteEncoding();
+        break;
     case QXmlStreamReader::StartElement:
         if (++m_depth > kMaxXmlDepth) {
             fail(m_position, QStringLiteral("elements are nested more than %1 deep").arg(kMaxXmlDepth));
@@ -100,7 +107,7 @@ QXmlStreamReader::TokenType SvdXmlReader::advance()
 bool SvdXmlReader::nextChild()
 {
     while (!m_isOver) {
-        m_position = position();
+        m_position = inCharacters(position());
         const QXmlStreamReader::TokenType token = advance();
         if (token == QXmlStreamReader::StartElement) {
             return !m_isOver;
@@ -120,7 +127,19 @@ void SvdXmlReader::skipElement()
     }
 }
 
-/// Where the next token begins.
+/// Whether the encoding that the XML declaration names, if any, is UTF-8.
+void SvdXmlReader::noteEncoding()
+{
+    const auto declared = m_xml.documentEncoding();
+    m_isUtf8 = declared.isEmpty() || declared.compare(QLatin1String("utf-8"), Qt::CaseInsensitive) == 0;
+}
+
+SvdPosition SvdXmlReader::inCharacters(const SvdPosition& position) const
+{
+    return m_input.hasPairs() && m_isUtf8 ? m_input.inCharacters(position) : position;
+}
+
+/// Where the next token begins, in units of UTF-16.
 SvdPosition SvdXmlReader::position() const
 {
     // Plain text is known to be over only when the reader has seen the '<' behind it.
@@ -140,7 +159,7 @@ void SvdXmlReader::findRoot()
         return;
     }
     // In front of the root white space is no token, so the root may begin later than the last token ended.
-    m_position = skipSpace(m_head, before);
+    m_position = inCharacters(skipSpace(decoded(m_head, m_isUtf8), before));
     if (svdTag(m_xml.name()) != SvdTag::Device) {
         fail(m_position,
              QStringLiteral("the root element is <%1>, and <device> was expected").arg(m_xml.name().toString()));
@@ -175,16 +194,28 @@ void SvdXmlReader::failInXml()
         fail({1, 1}, QStringLiteral("the file is empty, and a CMSIS-SVD description was expected"));
         return;
     }
+    const std::optional<SvdInput::WrongByte>& wrong = m_input.wrongByte();
+    if (wrong && m_isUtf8) {
+        // The reader gives up on all the bytes that it has taken at once.
+        fail(wrong->position,
+             QStringLiteral("the byte 0x%1 does not belong to UTF-8: text in UTF-8, or another encoding "
+                            "in the XML declaration, was expected")
+                 .arg(QString::number(uint(wrong->value), 16).toUpper()));
+        return;
+    }
     QString reason = m_xml.errorString();
     while (reason.endsWith(QLatin1Char('.'))) {
         reason.chop(1);
     }
+    // At an error the reader stands behind the character that it cannot take, at the end before the one that is missing.
+    const bool isEnd = m_xml.error() == QXmlStreamReader::PrematureEndOfDocumentError;
+    const qint32 column = qint32(m_xml.columnNumber()) + (isEnd ? 1 : 0);
+    const SvdPosition place = inCharacters({qint32(m_xml.lineNumber()), std::max(column, 1)});
     const QString expected =
-        m_xml.error() == QXmlStreamReader::PrematureEndOfDocumentError
-            ? (m_depth > 0 ? QStringLiteral("the file breaks off, and the end of every open element was expected")
-                           : QStringLiteral("no complete <device> element was found, and one was expected"))
-            : QStringLiteral("well-formed XML was expected");
-    fail(position(), QStringLiteral("%1: %2").arg(reason, expected));
+        isEnd ? (m_depth > 0 ? QStringLiteral("the file breaks off, and the end of every open element was expected")
+                             : QStringLiteral("no complete <device> element was found, and one was expected"))
+              : QStringLiteral("well-formed XML was expected");
+    fail(place, QStringLiteral("%1: %2").arg(reason, expected));
 }
 
 void SvdXmlReader::remark(const SvdPosition& position, const QString& found, const char* taken)

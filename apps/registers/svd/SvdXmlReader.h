@@ -2,6 +2,7 @@
 #pragma once
 
 #include "svd/SvdDescription.h"
+#include "svd/SvdInput.h"
 #include "svd/SvdRemarks.h"
 #include "svd/SvdTag.h"
 #include "svd/SvdText.h"
@@ -69,6 +70,8 @@ protected:
 
 private:
     QXmlStreamReader::TokenType advance();
+    void noteEncoding();
+    SvdPosition inCharacters(const SvdPosition& position) const;
     SvdPosition position() const;
     void tick();
     void failInXml();
@@ -89,15 +92,17 @@ private:
 
     SvdProgressMeter& m_meter;
     SvdRemarks& m_remarks;
+    QByteArray m_head; ///< the beginning of the input
+    SvdInput m_input;
     QXmlStreamReader m_xml;
     SvdStrings m_strings;
     QString m_text;         ///< of the element read last; its memory serves again and again
     SvdPosition m_position; ///< where the present child begins
-    QByteArray m_head;      ///< the beginning of the input
     SvdProblem m_problem;
     qint32 m_node = kNoNode;
     int m_depth = 0;
     quint32 m_tokens = 0;
+    bool m_isUtf8 = true;
     bool m_isOver = false; ///< a problem was found, or reading was cancelled
 };
 

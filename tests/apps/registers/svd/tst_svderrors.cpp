@@ -29,6 +29,9 @@ class tst_SvdErrors : public QObject
 private Q_SLOTS:
     void anErrorSaysWhereAndWhat_data();
     void anErrorSaysWhereAndWhat();
+    void aByteThatIsNotUtf8IsFound_data();
+    void aByteThatIsNotUtf8IsFound();
+    void aByteThatIsNotUtf8MayBelongToAnotherEncoding();
     void anErrorsTextNamesFileLineAndColumn();
     void aFileThatCannotBeOpenedIsAnError();
     void absurdAmountsAreRefused_data();
@@ -55,16 +58,22 @@ void tst_SvdErrors::anErrorSaysWhereAndWhat_data()
 
     // The document.
     row("an empty file", "", 1, 1, {"empty", "expected"});
-    row("a file without XML", "hello", 1, 2, {"Start tag expected", "XML"});
+    row("a file without XML", "hello", 1, 1, {"Start tag expected", "XML"});
     row("a file that is all white space", " \n ", 1, 1, {"no complete <device>"});
-    row("tags that do not match", "<device>\n<name>D</nam></device>", 2, 14, {"mismatch", "well-formed XML"});
+    row("tags that do not match", "<device>\n<name>D</nam></device>", 2, 13, {"mismatch", "well-formed XML"});
     row("a file that breaks off", "<device>\n<name>D", 2, 8, {"Premature end", "breaks off"});
     row("a file that breaks off within a tag", "<device><name>D</name><peri", 1, 28, {"Premature end"});
-    row("something behind the end", "<device><name>D</name></device><more/>", 1, 39, {"Extra content"});
-    row("an entity that is not declared", "<device><name>&nix;</name></device>", 1, 20, {"nix", "XML"});
+    row("something behind the end", "<device><name>D</name></device><more/>", 1, 38, {"Extra content"});
+    row("an entity that is not declared", "<device><name>&nix;</name></device>", 1, 19, {"nix", "XML"});
     row("another root", "<?xml version=\"1.0\"?>\n<!-- c -->\n\n  <package a='1'/>", 4, 3,
         {"<package>", "<device> was expected"});
     row("another root, on the first line", "<html></html>", 1, 1, {"<html>", "<device>"});
+
+    row("a character that may not be", "<device>\n <name>a\x01</name></device>", 2, 9, {"well-formed XML"});
+    row("a mistake behind characters of any length",
+        "<device>\n<name>\xC3\xB6\xE5\xAF\x84\xF0\x9F\x98\x80</nam></device>", 2, 15, {"mismatch"});
+    row("another root behind a comment of any characters", "<!-- \xC3\xB6\xE5\xAF\x84\xF0\x9F\x98\x80 --> <package/>",
+        1, 14, {"<package>"});
 
     // What there must be.
     row("a device without peripherals", "\n\n <device>\n<name>D</name></device>", 3, 2, {"<device>", "<peripheral>"});
@@ -100,6 +109,64 @@ void tst_SvdErrors::anErrorSaysWhereAndWhat()
     }
     QVERIFY2(result.error.line == line && result.error.column == column, qPrintable(result.error.text()));
     QCOMPARE(result.error.file, QStringLiteral("test.svd"));
+}
+
+void tst_SvdErrors::aByteThatIsNotUtf8IsFound_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("named");
+
+    const QByteArray begin = "<device>\n<name>D</name>\r\n<description>";
+    const QByteArray letters = "\xC3\xB6\xE5\xAF\x84\xF0\x9F\x98\x80";
+    const auto row = [](const char* name, const QByteArray& before, const char* bytes, const char* named) {
+        QTest::newRow(name) << before << QByteArray(bytes) << QString::fromLatin1(named);
+    };
+    row("a byte that no character has", begin, "\xFF", "0xFF");
+    row("a letter of Latin-1", begin + "gr",
+        "\xF6\xDF"
+        "er",
+        "0xF6");
+    row("the middle of a character", begin, "\x84", "0x84");
+    row("a longer form of a short one", begin, "\xC0\xAF", "0xC0");
+    row("half a pair", begin, "\xED\xA0\x80", "0xED");
+    row("behind the last plane", begin, "\xF4\x90\x80\x80", "0xF4");
+    row("behind characters of any length", begin + letters, "\xFE", "0xFE");
+    row("behind a declaration", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + begin, "\xFF", "0xFF");
+    row("behind a byte order mark", "\xEF\xBB\xBF<!-- c -->" + begin, "\xFF", "0xFF");
+    row("behind a byte order mark, in one line", "\xEF\xBB\xBF<device><name>", "\xFF", "0xFF");
+    row("far behind, in a short line", begin + QByteArray(40000, ' ') + '\n' + letters, "\xFF", "0xFF");
+    row("far behind, in a long line", begin + letters + QByteArray(40000, ' '), "\xFF", "0xFF");
+}
+
+void tst_SvdErrors::aByteThatIsNotUtf8IsFound()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, named);
+    const SvdResult result = read(before + bytes + "</description></device>");
+    QVERIFY(!result.isOk());
+    const QVector<uint> lastLine = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).toUcs4();
+    const qint64 mark = before.startsWith("\xEF\xBB\xBF") && !before.contains('\n') && lastLine.constFirst() == 0xFEFF;
+    QCOMPARE(result.error.line, qint64(before.count('\n') + 1));
+    QCOMPARE(result.error.column, qint64(lastLine.size() + 1 - mark));
+    QCOMPARE(result.error.message,
+             QStringLiteral("the byte %1 does not belong to UTF-8: text in UTF-8, or another encoding in the XML "
+                            "declaration, was expected")
+                 .arg(named));
+}
+
+void tst_SvdErrors::aByteThatIsNotUtf8MayBelongToAnotherEncoding()
+{
+    const QByteArray latin1 = "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>";
+    const SvdResult good = read(latin1 + device(peripheral("P", reg("R", "<description>\xF6</description>"))));
+    VERIFY_READ(good);
+    QCOMPARE(good.device->registerAt(0).description, QStringLiteral("\u00F6"));
+
+    const SvdResult bad = read(latin1 + "\n<device><name>\xF6\xF0\x9F\x98\x80</nam>");
+    QCOMPARE(bad.error.line, qint64(2));
+    QCOMPARE(bad.error.column, qint64(25));
+    QVERIFY2(bad.error.message.contains(QStringLiteral("mismatch")), qPrintable(bad.error.message));
 }
 
 void tst_SvdErrors::anErrorsTextNamesFileLineAndColumn()

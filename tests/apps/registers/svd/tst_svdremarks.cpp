@@ -64,6 +64,8 @@ private Q_SLOTS:
     void aRemarkIsOneLineOfPlainText();
     void goodDescriptionsHaveNoRemarks();
     void positionsAreExactThroughoutALargeFile();
+    void columnsCountCharacters_data();
+    void columnsCountCharacters();
 };
 
 void tst_SvdRemarks::aRemarkSaysWhereAndWhat_data()
@@ -582,6 +584,40 @@ void tst_SvdRemarks::positionsAreExactThroughoutALargeFile()
         QCOMPARE(result.remarks.at(0).line, qint64(xml.left(place).count('\n') + 1));
         QCOMPARE(result.remarks.at(0).column, qint64(place - xml.lastIndexOf('\n', place)));
     }
+}
+
+void tst_SvdRemarks::columnsCountCharacters_data()
+{
+    QTest::addColumn<QString>("before"); // in the element's line
+    QTest::addColumn<int>("column");
+
+    QTest::newRow("ASCII") << QStringLiteral("<x>aa</x>") << 10;
+    QTest::newRow("two bytes") << QStringLiteral("<x>\u00F6\u00DF</x>") << 10;
+    QTest::newRow("three bytes") << QStringLiteral("<x>\u5BC4\u5B58</x>") << 10;
+    QTest::newRow("four bytes") << QStringLiteral("<x>\U0001F600\U0001F601</x>") << 10;
+    QTest::newRow("four bytes in a comment") << QStringLiteral("<!--\U0001F600-->") << 9;
+    QTest::newRow("very many") << QStringLiteral("<x>%1</x>").arg(QStringLiteral("\U0001F600").repeated(30000))
+                               << 30008;
+    QTest::newRow("in the line before") << QStringLiteral("<x>\U0001F600\U0001F601</x>\n") << 1;
+    QTest::newRow("in the line before, with another end")
+        << QStringLiteral("<x>\U0001F600</x>\r\n<x>\U0001F601</x>") << 9;
+}
+
+void tst_SvdRemarks::columnsCountCharacters()
+{
+    QFETCH(QString, before);
+    QFETCH(int, column);
+    // The same again behind it must not matter.
+    const QByteArray xml = deviceOf(reg("R", '\n' + before.toUtf8() + "<size>?</size>" + before.toUtf8()));
+    const SvdResult result = read(xml);
+    VERIFY_READ(result);
+    QCOMPARE(result.remarks.size(), 1);
+    QCOMPARE(result.remarks.at(0).line, qint64(2 + before.count(QLatin1Char('\n'))));
+    QCOMPARE(result.remarks.at(0).column, qint64(column));
+
+    const QByteArray mark = "\xEF\xBB\xBF";
+    const SvdResult marked = read(mark + xml);
+    QCOMPARE(marked.remarks.at(0).column, qint64(column));
 }
 
 TESSERA_TEST_GUILESS_MAIN(tst_SvdRemarks)
