@@ -7,6 +7,9 @@
 #include "svd/SvdRemarks.h"
 #include "text/Quoted.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace registers {
 
 namespace {
@@ -118,30 +121,38 @@ qint32 SvdFieldResolver::fieldAt(qint32 scope, const QStringList& path, qint32 e
 
 qint32 SvdFieldResolver::fieldNamed(qint32 reg, const QString& name, qint32 except)
 {
+    const SvdNameIndex& index = indexOf(reg);
+    const QVector<qint32> named = index.named(name);
+    const auto exact = std::find_if(named.cbegin(), named.cend(), [except](qint32 id) { return id != except; });
+    if (exact != named.cend()) {
+        return *exact;
+    }
+    const std::vector<qint32> arrays = index.arraysFor(name);
+    const auto found =
+        std::find_if(arrays.cbegin(), arrays.cend(), [&](qint32 id) { return id != except && isCopyOf(id, name); });
+    return found == arrays.cend() ? kNotFound : *found;
+}
+
+const SvdNameIndex& SvdFieldResolver::indexOf(qint32 reg)
+{
+    const auto known = m_indices.find(reg);
+    if (known != m_indices.end()) {
+        return known->second;
+    }
+    SvdNameIndex index;
     const RawRange fields = m_description.node(reg).fields;
     for (qint32 i = fields.first; i < fields.end(); ++i) {
         const qint32 id = m_description.fieldId(i);
-        if (id != except && m_description.field(id).name == name) {
-            return id;
-        }
+        const RawField& field = m_description.field(id);
+        index.add(field.name, field.dim >= 0, id);
     }
-    for (qint32 i = fields.first; i < fields.end(); ++i) {
-        const qint32 id = m_description.fieldId(i);
-        if (id != except && isCopyOf(id, name)) {
-            return id;
-        }
-    }
-    return kNotFound;
+    return m_indices.emplace(reg, std::move(index)).first->second;
 }
 
+/// True when one of the copies of the array @p id is called @p name.
 bool SvdFieldResolver::isCopyOf(qint32 id, const QString& name)
 {
     const RawField& field = m_description.field(id);
-    const auto fixedLength = field.name.indexOf(QLatin1String("%s"));
-    if ((fixedLength < 0 && field.dim < 0) ||
-        !name.startsWith(fixedLength < 0 ? field.name : field.name.left(fixedLength))) {
-        return false;
-    }
     const bool isBusy = m_fieldStates[size_t(id)] == SvdDerivationState::Busy;
     if ((!isBusy && !resolveField(id)) || field.dim < 0) {
         return false;

@@ -3,11 +3,13 @@
 
 #include "svd/SvdDerivation.h"
 #include "svd/SvdDescription.h"
+#include "svd/SvdNameIndex.h"
 #include "svd/SvdNodeResolver.h"
 
 #include <QStringList>
 
 #include <optional>
+#include <unordered_map>
 
 namespace registers {
 
@@ -34,6 +36,7 @@ private:
     std::optional<qint32> fieldBaseOf(qint32 id);
     qint32 findFieldBase(qint32 id, qint32 except);
     bool isCopyOf(qint32 id, const QString& name);
+    const SvdNameIndex& indexOf(qint32 reg);
     bool mergeField(qint32 id, qint32 baseId);
     void completeName(RawField* field, const RawField* base);
     void completeBits(RawField* field, const RawField* base);
@@ -47,6 +50,7 @@ private:
     SvdRemarks& m_remarks;
     SvdProgressMeter& m_meter;
     SvdDerivationStates m_fieldStates;
+    std::unordered_map<qint32, SvdNameIndex> m_indices; ///< of the registers' fields
     std::optional<SvdProblem> m_problem;
     int m_depth = 0;
 };

@@ -233,14 +233,13 @@ qint32 SvdNodeResolver::childNamed(qint32 scope, const QString& name, Wanted isW
         return kNotFound;
     }
     const auto isPossible = [&](qint32 id) { return id != except && isWanted(m_description.node(id).kind); };
-    const NameIndex& index = indexOf(scope);
-    const auto end = index.byName.constEnd();
-    for (auto entry = index.byName.constFind(name); entry != end && entry.key() == name; ++entry) {
-        if (isPossible(entry.value())) {
-            return entry.value();
-        }
+    const SvdNameIndex& index = indexOf(scope); // good until isCopyOf(), which may make others
+    const QVector<qint32> named = index.named(name);
+    const auto exact = std::find_if(named.cbegin(), named.cend(), isPossible);
+    if (exact != named.cend()) {
+        return *exact;
     }
-    const std::vector<qint32> arrays = index.arrays; // a copy, as what follows may make other indices
+    const std::vector<qint32> arrays = index.arraysFor(name);
     const auto found =
         std::find_if(arrays.cbegin(), arrays.cend(), [&](qint32 id) { return isPossible(id) && isCopyOf(id, name); });
     return found == arrays.cend() ? kNotFound : *found;
@@ -250,10 +249,6 @@ qint32 SvdNodeResolver::childNamed(qint32 scope, const QString& name, Wanted isW
 bool SvdNodeResolver::isCopyOf(qint32 id, const QString& name)
 {
     const RawNode& node = m_description.node(id);
-    const auto fixedLength = node.name.indexOf(QLatin1String("%s"));
-    if (!name.startsWith(fixedLength < 0 ? node.name : node.name.left(fixedLength))) {
-        return false;
-    }
     const bool isBusy = m_states[size_t(id)] == SvdDerivationState::Busy;
     if ((!isBusy && !resolveNode(id)) || node.dim < 0) {
         return false;
@@ -262,7 +257,7 @@ bool SvdNodeResolver::isCopyOf(qint32 id, const QString& name)
 }
 
 /// The names of a scope's children. They are kept once the scope has all its children.
-const SvdNodeResolver::NameIndex& SvdNodeResolver::indexOf(qint32 scope)
+const SvdNameIndex& SvdNodeResolver::indexOf(qint32 scope)
 {
     if (scope != kDeviceScope && m_states[size_t(scope)] != SvdDerivationState::Done) {
         m_busyIndex = makeIndex(childrenOf(scope));
@@ -273,20 +268,14 @@ const SvdNodeResolver::NameIndex& SvdNodeResolver::indexOf(qint32 scope)
                                     : m_indices.emplace(scope, makeIndex(childrenOf(scope))).first->second;
 }
 
-SvdNodeResolver::NameIndex SvdNodeResolver::makeIndex(RawRange children) const
+SvdNameIndex SvdNodeResolver::makeIndex(RawRange children) const
 {
-    NameIndex index;
-    index.byName.reserve(children.count);
-    // From the last to the first, since a multi hash answers with what was inserted last.
-    for (qint32 i = children.end() - 1; i >= children.first; --i) {
+    SvdNameIndex index;
+    for (qint32 i = children.first; i < children.end(); ++i) {
         const qint32 id = m_description.childId(i);
         const RawNode& node = m_description.node(id);
-        index.byName.insert(node.name, id);
-        if (node.dim >= 0 || hasPlaceholder(node.name)) {
-            index.arrays.push_back(id);
-        }
+        index.add(node.name, node.dim >= 0, id);
     }
-    std::reverse(index.arrays.begin(), index.arrays.end());
     return index;
 }
 

@@ -3,8 +3,8 @@
 
 #include "svd/SvdDerivation.h"
 #include "svd/SvdDescription.h"
+#include "svd/SvdNameIndex.h"
 
-#include <QMultiHash>
 #include <QStringList>
 
 #include <optional>
@@ -37,12 +37,6 @@ public:
     RawRange childrenOf(qint32 scope) const;
 
 private:
-    struct NameIndex
-    {
-        QMultiHash<QString, qint32> byName;
-        std::vector<qint32> arrays;
-    };
-
     using Wanted = bool (*)(NodeKind kind);
 
     bool resolveNode(qint32 id);
@@ -55,8 +49,8 @@ private:
 
     qint32 childNamed(qint32 scope, const QString& name, Wanted isWanted, qint32 except);
     bool isCopyOf(qint32 id, const QString& name);
-    const NameIndex& indexOf(qint32 scope);
-    NameIndex makeIndex(RawRange children) const;
+    const SvdNameIndex& indexOf(qint32 scope);
+    SvdNameIndex makeIndex(RawRange children) const;
 
     bool checkNesting();
     int heightOf(qint32 id, int depth);
@@ -68,8 +62,8 @@ private:
     SvdRemarks& m_remarks;
     SvdProgressMeter& m_meter;
     SvdDerivationStates m_states;
-    std::unordered_map<qint32, NameIndex> m_indices;
-    NameIndex m_busyIndex;
+    std::unordered_map<qint32, SvdNameIndex> m_indices;
+    SvdNameIndex m_busyIndex;
     std::vector<int> m_heights;    ///< 0 while unknown, kBusyHeight while being found
     std::vector<qint32> m_nesting; ///< the nodes from the device down to the one being looked at
     std::optional<SvdProblem> m_problem;

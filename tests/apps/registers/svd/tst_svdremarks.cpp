@@ -60,6 +60,7 @@ private Q_SLOTS:
     void aRemarkNamesItsRegister();
     void aSharedFieldIsRemarkedOnce();
     void ofVeryManyRemarksTheNumberIsTold();
+    void veryManyReferencesMayLeadNowhere();
     void aRemarkIsOneLineOfPlainText_data();
     void aRemarkIsOneLineOfPlainText();
     void goodDescriptionsHaveNoRemarks();
@@ -516,6 +517,23 @@ void tst_SvdRemarks::ofVeryManyRemarksTheNumberIsTold()
     QCOMPARE(result.remarks.size(), 10000);
     QCOMPARE(result.remarkCount, qint64(kCount));
     QCOMPARE(result.remarks.at(9999).line, qint64(10000));
+}
+
+void tst_SvdRemarks::veryManyReferencesMayLeadNowhere()
+{
+    // Each is looked for among all the others, which are arrays and hence have many names.
+    constexpr int kCount = 20000;
+    QByteArray registersXml;
+    QByteArray fields;
+    for (int i = 0; i < kCount; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        registersXml += "<register derivedFrom=\"X" + number + "\"><name>R" + number +
+                        "_%s</name><dim>1</dim><addressOffset>0</addressOffset></register>";
+        fields += "<field derivedFrom=\"X" + number + "\"><name>F" + number + "</name><bitOffset>0</bitOffset></field>";
+    }
+    const SvdResult result = read(deviceOf(registersXml + reg("S", "", fields)));
+    VERIFY_READ(result);
+    QCOMPARE(result.remarkCount, qint64(2 * kCount));
 }
 
 void tst_SvdRemarks::aRemarkIsOneLineOfPlainText_data()
