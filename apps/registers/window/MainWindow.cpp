@@ -8,6 +8,7 @@
 #include "window/FileWork.h"
 #include "window/LayoutKeeper.h"
 #include "window/Navigator.h"
+#include "window/RemarksButton.h"
 #include "window/Settings.h"
 #include "window/ViewActions.h"
 #include "window/WindowText.h"
@@ -56,6 +57,7 @@ MainWindow::MainWindow(QWidget* parent)
     , m_layout(new LayoutKeeper(this, m_splitter))
     , m_navigator(new Navigator(m_panel, m_view))
     , m_steps(new WorkSteps)
+    , m_remarks(new RemarksButton)
     , m_changedLabel(new QLabel)
 {
     initCentral();
@@ -82,6 +84,7 @@ void MainWindow::initCentral()
     setCentralWidget(m_splitter);
     setAcceptDrops(true);
     m_changedLabel->setObjectName(QStringLiteral("changedCount"));
+    statusBar()->addPermanentWidget(m_remarks);
     statusBar()->addPermanentWidget(m_changedLabel);
 }
 
@@ -119,6 +122,7 @@ void MainWindow::initConnect()
     connect(m_editActions, &EditActions::addressGiven, m_navigator, &Navigator::goToAddress);
     connect(m_viewActions, &ViewActions::changesOnlyChanged, this, &MainWindow::updateStep);
     connect(m_steps, &WorkSteps::sigStepClicked, this, &MainWindow::takeStep);
+    connect(m_remarks, &RemarksButton::registerChosen, m_navigator, &Navigator::goToRegister);
     connect(m_navigator, &Navigator::moved, this, &MainWindow::updateState);
     connect(m_navigator, &Navigator::notFound, this,
             [this](quint64 address) { statusBar()->showMessage(noRegisterText(address), kMessageMs); });
@@ -142,6 +146,7 @@ void MainWindow::setSession(Session session)
     connect(&m_device->state(), &DeviceState::registerChanged, this, &MainWindow::markEdited);
     connect(&m_device->state(), &DeviceState::allChanged, this, &MainWindow::markEdited);
     setWindowTitle(titleText(*m_device));
+    m_remarks->setRemarks(this->session().remarks, this->session().remarkCount);
     markEdited();
     m_navigator->showFirst(this->session().selection);
 }

@@ -21,6 +21,7 @@ class FileWork;
 class FormView;
 class LayoutKeeper;
 class Navigator;
+class RemarksButton;
 class ViewActions;
 class WorkSteps;
 
@@ -83,6 +84,7 @@ private:
     LayoutKeeper* m_layout;
     Navigator* m_navigator;
     WorkSteps* m_steps;
+    RemarksButton* m_remarks;
     QLabel* m_changedLabel;
 };
 

@@ -73,4 +73,12 @@ void Navigator::goToAddress(quint64 address)
     }
 }
 
+void Navigator::goToRegister(const QString& path)
+{
+    const int index = m_device->device().findRegister(path);
+    if (index >= 0) {
+        select({index, -1});
+    }
+}
+
 } // namespace registers

@@ -26,6 +26,7 @@ public:
     /// Where a device that has just been opened begins: at @p selection, or at its first register.
     void showFirst(const PathTarget& selection);
     void goToAddress(quint64 address);
+    void goToRegister(const QString& path);
 
 Q_SIGNALS:
     /// The form shows what is current in the tree now.

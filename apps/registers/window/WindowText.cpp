@@ -36,6 +36,11 @@ QString changedText(int count)
     }
 }
 
+QString remarksText(qint64 count)
+{
+    return count == 1 ? tr("1 remark") : tr("%1 remarks").arg(count);
+}
+
 QString noRegisterText(quint64 address)
 {
     return tr("No register at %1").arg(numberText(address, NumberBase::Hexadecimal));

@@ -10,6 +10,7 @@
 #include "tree/DevicePanel.h"
 #include "window/LoadDialog.h"
 #include "window/MainWindow.h"
+#include "window/RemarksDialog.h"
 #include "window/Settings.h"
 #include "window/WorkSteps.h"
 
@@ -20,7 +21,9 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
@@ -28,6 +31,7 @@
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QSvgWidget>
+#include <QToolButton>
 
 #include <memory>
 #include <optional>
@@ -53,8 +57,17 @@ private Q_SLOTS:
     void theProgressOfAFileIsShown();
     void escapeCancelsLoadingAndOtherKeysDoNothing();
     void theFormIsNeverNarrowerThanItsContent();
+    void withoutRemarksNothingTellsOfThem();
+    void remarksAreListedAndLeadToTheirRegister();
+    void aListOfRemarksGoesWithItsDescription();
+    void ofManyRemarksTheListHoldsTheFirst();
 
 private:
+    /// Opens the device once more, with remarks.
+    void setRemarks(const QVector<SvdMessage>& remarks, qint64 count);
+    QToolButton* remarksButton() const { return m_window->findChild<QToolButton*>(QStringLiteral("remarkCount")); }
+    RemarksDialog* openRemarks() const;
+
     QAction* action(const char* name) const { return m_window->findChild<QAction*>(QLatin1String(name)); }
     QCheckBox* step(WorkSteps::Step step) const { return m_steps->findChildren<QCheckBox*>().at(step); }
     void clickStep(WorkSteps::Step step) const;
@@ -83,6 +96,18 @@ void tst_WindowDialogs::cleanup()
 void tst_WindowDialogs::clickStep(WorkSteps::Step which) const
 {
     QTest::mouseClick(step(which), Qt::LeftButton);
+}
+
+void tst_WindowDialogs::setRemarks(const QVector<SvdMessage>& remarks, qint64 count)
+{
+    const DevicePtr device = m_window->session().device;
+    m_window->setSession({device, std::make_unique<DeviceState>(device), {}, remarks, count});
+}
+
+RemarksDialog* tst_WindowDialogs::openRemarks() const
+{
+    QTest::mouseClick(remarksButton(), Qt::LeftButton);
+    return m_window->findChild<RemarksDialog*>();
 }
 
 void tst_WindowDialogs::anAddressLeadsToItsRegister_data()
@@ -235,6 +260,56 @@ void tst_WindowDialogs::theFormIsNeverNarrowerThanItsContent()
     QVERIFY(view->viewport()->width() >= view->widget()->minimumSizeHint().width());
     QCOMPARE(view->widget()->width(), view->viewport()->width());
     QCOMPARE(view->horizontalScrollBar()->maximum(), 0);
+}
+
+void tst_WindowDialogs::withoutRemarksNothingTellsOfThem()
+{
+    QVERIFY(!remarksButton()->isVisible());
+}
+
+void tst_WindowDialogs::remarksAreListedAndLeadToTheirRegister()
+{
+    const QString path = m_window->session().device->registerAt(1).path;
+    setRemarks({{QStringLiteral("a.svd"), 3, 4, QStringLiteral("<b>odd</b>; left out"), QString()},
+                {QStringLiteral("a.svd"), 5, 6, QStringLiteral("odd, too"), path}},
+               2);
+    QVERIFY(remarksButton()->isVisible());
+    QCOMPARE(remarksButton()->text(), QStringLiteral("2 remarks"));
+
+    RemarksDialog* dialog = openRemarks();
+    QVERIFY(dialog && dialog->isVisible());
+    auto* list = dialog->findChild<QListWidget*>();
+    QCOMPARE(list->count(), 2);
+    QCOMPARE(list->item(0)->text(), QStringLiteral("3:4: <b>odd</b>; left out"));
+    QCOMPARE(list->item(1)->text(), QStringLiteral("5:6: odd, too"));
+    QCOMPARE(m_window->formView()->form()->registerIndex(), 0);
+
+    list->setCurrentRow(0);
+    QTest::keyClick(list, Qt::Key_Return);
+    QCOMPARE(m_window->formView()->form()->registerIndex(), 0);
+    list->setCurrentRow(1);
+    QTest::keyClick(list, Qt::Key_Return);
+    QCOMPARE(m_window->formView()->form()->registerIndex(), 1);
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(openRemarks(), dialog);
+}
+
+void tst_WindowDialogs::aListOfRemarksGoesWithItsDescription()
+{
+    setRemarks({{QStringLiteral("a.svd"), 3, 4, QStringLiteral("odd"), QString()}}, 1);
+    QCOMPARE(remarksButton()->text(), QStringLiteral("1 remark"));
+    QVERIFY(openRemarks());
+    setRemarks({}, 0);
+    QVERIFY(!remarksButton()->isVisible());
+    QVERIFY(!m_window->findChild<RemarksDialog*>());
+}
+
+void tst_WindowDialogs::ofManyRemarksTheListHoldsTheFirst()
+{
+    setRemarks({{QStringLiteral("a.svd"), 3, 4, QStringLiteral("odd"), QString()}}, 12000);
+    QCOMPARE(remarksButton()->text(), QStringLiteral("12000 remarks"));
+    QCOMPARE(openRemarks()->findChild<QLabel*>(QStringLiteral("heading"))->text(),
+             QStringLiteral("The first 1 of 12000 remarks, with line and column:"));
 }
 
 TESSERA_TEST_MAIN(tst_WindowDialogs)
