@@ -164,6 +164,7 @@ bool SvdFieldResolver::mergeField(qint32 id, qint32 baseId)
 {
     RawField& field = m_description.field(id);
     const RawField* const base = baseId == kNoBase ? nullptr : &m_description.field(baseId);
+    completeName(&field, base);
     if (base) {
         field.description = field.description.isEmpty() ? base->description : field.description;
         field.access = field.access ? field.access : base->access;
@@ -176,7 +177,6 @@ bool SvdFieldResolver::mergeField(qint32 id, qint32 baseId)
             field.dim = inheritedDim(&m_description, field.dim, base->dim);
         }
     }
-    completeName(&field, base);
     completeBits(&field, base);
     return true;
 }

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void whatHasNoPlaceIsLeftOut();
     void aFieldPartlyOutsideItsRegisterStays();
     void aDerivedElementWithoutNameTakesItsBasesName();
+    void aDerivedArrayWithoutNameIsAnArray();
     void anArrayThatSaysTooLittleIsItsFirstCopy();
     void unknownWordsOfReadingAndEnumerationsSayNothing();
     void whatDerivesFromWhatIsLeftOutHasItsOwn();
@@ -392,6 +393,21 @@ void tst_SvdRemarks::aDerivedElementWithoutNameTakesItsBasesName()
                                          "its base is taken"),
                           QStringLiteral("4:1: this <field> has no name, and a <name> was expected in it; that of its "
                                          "base is taken")}));
+}
+
+void tst_SvdRemarks::aDerivedArrayWithoutNameIsAnArray()
+{
+    const QByteArray copies = "<dim>2</dim><dimIncrement>4</dimIncrement>";
+    const SvdResult result =
+        read(deviceOf(reg("R%s", copies,
+                          field("F%s", "<bitRange>[1:0]</bitRange>", "<dim>2</dim>") +
+                              "<field derivedFrom=\"F%s\"><bitRange>[5:4]</bitRange></field>") +
+                      "<register derivedFrom=\"R%s\"><addressOffset>8</addressOffset></register>"));
+    VERIFY_READ(result);
+    QCOMPARE(places(*result.device).join(QLatin1Char(' ')), QStringLiteral("P.R0@1000 P.R1@1004 P.R0@1008 P.R1@100c"));
+    QCOMPARE(fieldPlaces(result.device->registerAt(3)).join(QLatin1Char(' ')),
+             QStringLiteral("F0[1:0] F1[3:2] F0[5:4] F1[7:6]"));
+    QCOMPARE(result.remarks.size(), 2);
 }
 
 void tst_SvdRemarks::anArrayThatSaysTooLittleIsItsFirstCopy()
