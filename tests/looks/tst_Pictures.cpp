@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Pictures.h"
 #include "Setting.h"
+#include "support/TestMain.h"
 
 #include <QApplication>
 #include <QFile>
@@ -166,9 +167,7 @@ void tst_Pictures::settingsAreSixteenAndFourHavePictures()
 int main(int argc, char* argv[])
 {
     prepareApplication();
-    QApplication app(argc, argv);
-    tst_Pictures test;
-    return QTest::qExec(&test, argc, argv);
+    return TestSupport::testMain<QApplication, tst_Pictures>(argc, argv);
 }
 
 #include "tst_Pictures.moc"
