@@ -16,6 +16,10 @@ namespace {
 QImage pictureOfText(const QString& text, QFont::HintingPreference hinting, const QPointF& offset = {})
 {
     QImage picture(600, 400, QImage::Format_RGB32);
+    // At some resolutions full hinting makes words wider, and this is about edges alone.
+    constexpr int kDotsPerMeter = 3937; // 100 in an inch
+    picture.setDotsPerMeterX(kDotsPerMeter);
+    picture.setDotsPerMeterY(kDotsPerMeter);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     QFont font(QStringLiteral("DejaVu Sans"), 10);
