@@ -19,6 +19,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <functional>
+
 using CellModels::Answers;
 using CellModels::CellTable;
 using CellModels::CellTree;
@@ -34,17 +36,6 @@ Answers cellOf(int nKind, int nType = 16)
     const QStringList texts{QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")};
     return {{Qt::UserRole, nKind},        {Qt::EditRole, 1}, {260, texts}, {261, texts},
             {262, QVariantList{0, 1, 2}}, {263, nType}};
-}
-
-/*!
-    Whether nothing was said, or only what Qt 6 says to Enter: the view has closed the editor because its cell has changed,
-    and Enter then closes it once more.
-*/
-bool isSilentOrSecondClose(const QStringList& lines)
-{
-    const QString second = QStringLiteral(
-        "warning: QAbstractItemView::closeEditor called with an editor that does not belong to this view");
-    return lines.isEmpty() || (QT_VERSION >= QT_VERSION_CHECK(6, 0, 0) && lines == QStringList(second));
 }
 
 } // namespace
@@ -257,7 +248,7 @@ void tst_ChangingCells::enterWritesNothingIntoACellThatHasChanged()
     TestSupport::MessageRecorder log;
     QTest::keyClick(pEditor, Qt::Key_Return);
     QTRY_VERIFY(!pEditor);
-    QVERIFY(isSilentOrSecondClose(log.take()));
+    QCOMPARE(log.take(), QStringList());
     QCOMPARE(m_pTable->takeWrites(), QStringList());
 }
 
@@ -293,7 +284,7 @@ void tst_ChangingCells::aCellThatChangesWithItsOwnWriteIsClosed()
     TestSupport::MessageRecorder log;
     QTest::keyClick(pEditor, Qt::Key_Return);
     QTRY_VERIFY(!pEditor);
-    QVERIFY(isSilentOrSecondClose(log.take()));
+    QCOMPARE(log.take(), QStringList());
     QCOMPARE(m_pTable->takeWrites().size(), 1);
     QCOMPARE(m_pTable->value(1, 1), QVariant::fromValue(ushort(7)));
     QVERIFY(qobject_cast<nsUI::CDSpinBox*>(edit(m_pTable->at(1, 1))));
@@ -328,13 +319,15 @@ void tst_ChangingCells::aRowThatIsGoneIsNotWritten()
         const QModelIndex index = m_pTable->at(nRow, 1);
         QWidget* const pEditor = m_delegate.createEditor(&parent, QStyleOptionViewItem(), index);
         m_delegate.setEditorData(pEditor, index);
+        parent.show();
+        pEditor->show();
         QSignalSpy closed(&m_delegate, &QAbstractItemDelegate::closeEditor);
         m_pTable->dropRow(nRow);
         if (nRow == 2)
             m_pTable->dropRow(1);
         m_delegate.setEditorData(pEditor, index);
         m_delegate.setModelData(pEditor, m_pTable.data(), index);
-        QVERIFY(closed.count() > 0);
+        QTRY_VERIFY(closed.count() > 0);
         QCOMPARE(closed.last().first().value<QWidget*>(), pEditor);
     }
     QCOMPARE(m_pTable->takeWrites(), QStringList());
@@ -487,20 +480,29 @@ void tst_ChangingCells::theDelegateSaysWhichEditorCloses()
     QWidget parent;
     QWidget* const pEditor = m_delegate.createEditor(&parent, QStyleOptionViewItem(), index);
     m_delegate.setEditorData(pEditor, index);
+    parent.show();
+    pEditor->show();
     becomeSilently(toKind, toType);
 
+    // Each time later: a view that is placing its editors cannot do without one of them at once.
     QSignalSpy closed(&m_delegate, &QAbstractItemDelegate::closeEditor);
-    m_delegate.setEditorData(pEditor, index);
-    QCOMPARE(closed.count(), 1);
-    QCOMPARE(closed.last().first().value<QWidget*>(), pEditor);
+    const std::function<void()> calls[] = {
+        [&] { m_delegate.setEditorData(pEditor, index); },
+        [&] { m_delegate.setModelData(pEditor, m_pTable.data(), index); },
+        [&] { m_delegate.updateEditorGeometry(pEditor, QStyleOptionViewItem(), index); },
+    };
+    for (const auto& call : calls) {
+        call();
+        QCOMPARE(closed.count(), 0);
+        QVERIFY(!QApplication::activePopupWidget());
+        QTRY_COMPARE(closed.count(), 1);
+        QCOMPARE(closed.takeFirst().first().value<QWidget*>(), pEditor);
+    }
+    // A view closes the editor of a key by itself, and hides it.
     m_delegate.setModelData(pEditor, m_pTable.data(), index);
-    QCOMPARE(closed.count(), 2);
-    // A view that is placing its editors cannot do without one of them at once.
-    m_delegate.updateEditorGeometry(pEditor, QStyleOptionViewItem(), index);
-    QCOMPARE(closed.count(), 2);
-    QVERIFY(!QApplication::activePopupWidget());
-    QTRY_COMPARE(closed.count(), 3);
-    QCOMPARE(closed.last().first().value<QWidget*>(), pEditor);
+    pEditor->hide();
+    QCoreApplication::processEvents();
+    QCOMPARE(closed.count(), 0);
     QCOMPARE(m_pTable->takeWrites(), QStringList());
 }
 

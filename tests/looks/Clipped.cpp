@@ -112,7 +112,8 @@ QVector<Fit> fitsOf(const QGroupBox* box)
     const auto option = Opened<QGroupBox, QStyleOptionGroupBox>::optionOf(box);
     const QRect label =
         box->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, box) & box->rect();
-    return {{box->title(), sizeOf(box, box->title()), label.size()}};
+    // The style makes the label as high as the font is, rounded in its own way.
+    return {{box->title(), QSize(sizeOf(box, box->title()).width(), 0), label.size()}};
 }
 
 /// What is typed scrolls; what is offered does not.

@@ -68,6 +68,7 @@ void prepareApplication()
 
 QString pinLooks()
 {
+    QApplication::setAttribute(Qt::AA_Use96Dpi, false); // which a test has; an application has the screen's
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), kPointSize));
     const QStringList families = fontFamilies();

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Pictures.h"
 #include "Setting.h"
-#include "TestSupport.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 #include "Walk.h"
 
 #include "common/Screenshot.h"
@@ -17,11 +18,15 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <memory>
 
 using namespace gallery;
+
+Q_LOGGING_CATEGORY(c_looks, "tests.looks") // what was looked at; a message without a category would fail the run
 
 namespace {
 
@@ -111,7 +116,7 @@ private Q_SLOTS:
     void everyWidgetOfTheLibraryWasLookedAt();
 
 private:
-    std::unique_ptr<TestSupport::SettingsGuard> m_settings;
+    std::unique_ptr<TestSupport::GlobalState> m_global;
     std::unique_ptr<Host> m_host;
     QVector<looks::Setting> m_all;
     QSet<QString> m_classes;
@@ -120,17 +125,21 @@ private:
 
 void tst_GalleryLooks::initTestCase()
 {
-    m_settings = std::make_unique<TestSupport::SettingsGuard>();
+    m_global = std::make_unique<TestSupport::GlobalState>();
     const QString missing = looks::pinLooks();
     QVERIFY2(missing.isEmpty(), qPrintable(missing));
+    // The gallery changes sheets all the time, and the library tells of each change and of the fonts.
+    TestSupport::allowMessages(QtInfoMsg,
+                               QRegularExpression(QStringLiteral("^(Successfully to load|Unused) qss File: ")));
+    TestSupport::allowMessages(QtDebugMsg, QRegularExpression(QStringLiteral("QFileInfo\\(:/ttf/.*\\.ttf\\)")));
     m_host = std::make_unique<Host>(Look());
 }
 
 void tst_GalleryLooks::cleanupTestCase()
 {
-    qInfo("%d widgets were looked at", m_widgets);
+    qCInfo(c_looks, "%d widgets were looked at", m_widgets);
     m_host.reset();
-    m_settings.reset();
+    m_global.reset();
 }
 
 void tst_GalleryLooks::aSceneLooksWell_data()
@@ -185,9 +194,7 @@ void tst_GalleryLooks::everyWidgetOfTheLibraryWasLookedAt()
 int main(int argc, char* argv[])
 {
     looks::prepareApplication();
-    QApplication app(argc, argv);
-    tst_GalleryLooks test;
-    return QTest::qExec(&test, argc, argv);
+    return TestSupport::testMain<QApplication, tst_GalleryLooks>(argc, argv);
 }
 
 #include "tst_GalleryLooks.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Contrast.h"
 #include "Setting.h"
+#include "support/TestMain.h"
 #include "Walk.h"
 
 #include <QCheckBox>
@@ -303,9 +304,7 @@ void tst_Looks::anExemptionTakesAwayItsFindingOnly()
 int main(int argc, char* argv[])
 {
     prepareApplication();
-    QApplication app(argc, argv);
-    tst_Looks test;
-    return QTest::qExec(&test, argc, argv);
+    return TestSupport::testMain<QApplication, tst_Looks>(argc, argv);
 }
 
 #include "tst_Looks.moc"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Pictures.h"
 #include "Setting.h"
-#include "TestSupport.h"
+#include "support/GlobalState.h"
+#include "support/TestMain.h"
 #include "Walk.h"
 
 #include "CommandRun.h"
@@ -17,6 +18,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLoggingCategory>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -27,6 +29,8 @@
 #include <memory>
 
 using namespace registers;
+
+Q_LOGGING_CATEGORY(c_looks, "tests.looks") // what was looked at; a message without a category would fail the run
 
 namespace {
 
@@ -202,7 +206,7 @@ private Q_SLOTS:
 private:
     void use(const looks::Setting& setting);
 
-    std::unique_ptr<TestSupport::SettingsGuard> m_settings;
+    std::unique_ptr<TestSupport::GlobalState> m_global;
     QVector<looks::Setting> m_all;
     QTranslator m_catalogue;
     int m_widgets = 0;
@@ -210,7 +214,7 @@ private:
 
 void tst_RegistersLooks::initTestCase()
 {
-    m_settings = std::make_unique<TestSupport::SettingsGuard>();
+    m_global = std::make_unique<TestSupport::GlobalState>();
     nsUI::TesseraGlobal::instance();
     const QString missing = looks::pinLooks();
     QVERIFY2(missing.isEmpty(), qPrintable(missing));
@@ -218,8 +222,8 @@ void tst_RegistersLooks::initTestCase()
 
 void tst_RegistersLooks::cleanupTestCase()
 {
-    qInfo("%d widgets were looked at", m_widgets);
-    m_settings.reset();
+    qCInfo(c_looks, "%d widgets were looked at", m_widgets);
+    m_global.reset();
 }
 
 /// The editor itself speaks English; the library's dialogs in it speak Chinese, too.
@@ -278,9 +282,7 @@ void tst_RegistersLooks::everyExemptionIsNeeded()
 int main(int argc, char* argv[])
 {
     looks::prepareApplication();
-    QApplication app(argc, argv);
-    tst_RegistersLooks test;
-    return QTest::qExec(&test, argc, argv);
+    return TestSupport::testMain<QApplication, tst_RegistersLooks>(argc, argv);
 }
 
 #include "tst_RegistersLooks.moc"

@@ -13,19 +13,19 @@
 namespace nsUI {
 namespace {
 
+/*!
+    Asks the view to close an editor, but not at once: a view that is placing its editors cannot do without one of them. One
+    that commits on a key closes it by itself, which hides it.
+*/
 void close(const QAbstractItemDelegate* pDelegate, QWidget* pEditor)
 {
-    Q_EMIT const_cast<QAbstractItemDelegate*>(pDelegate)->closeEditor(pEditor);
-}
-
-//! A view that is placing its editors cannot do without one of them at once.
-void closeLater(const QAbstractItemDelegate* pDelegate, QWidget* pEditor)
-{
-    const auto closeUnlessGone = [pDelegate = QPointer<const QAbstractItemDelegate>(pDelegate), pEditor] {
-        if (pDelegate)
-            close(pDelegate, pEditor);
+    auto* const pSender = const_cast<QAbstractItemDelegate*>(pDelegate);
+    const auto closeUnlessGone = [pSender, pEditor = QPointer<QWidget>(pEditor)] {
+        if (pEditor && !pEditor->isHidden())
+            Q_EMIT pSender->closeEditor(pEditor);
     };
-    QMetaObject::invokeMethod(pEditor, closeUnlessGone, Qt::QueuedConnection);
+    // Not posted to the editor: a view that closes one sends first what is posted to it.
+    QMetaObject::invokeMethod(pSender, closeUnlessGone, Qt::QueuedConnection);
 }
 
 //! The integer boxes have no user property, and Qt's delegate would write an invalid variant for them.
@@ -98,7 +98,7 @@ void StyledItemDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptio
 {
     const CellKind& kind = CellKind::of(index);
     if (EditorOrigin::isOutdated(editor, index, kind)) {
-        closeLater(this, editor);
+        close(this, editor);
         editor->setGeometry(option.rect); // a persistent editor stays
     } else if (kind.place == nullptr) {
         QStyledItemDelegate::updateEditorGeometry(editor, option, index);
