@@ -26,6 +26,11 @@ void RemarksButton::setRemarks(const QVector<SvdMessage>& remarks, qint64 count)
     setVisible(count > 0);
 }
 
+QSize RemarksButton::sizeHint() const
+{
+    return {QToolButton::sizeHint().width(), fontMetrics().height()};
+}
+
 void RemarksButton::showList()
 {
     if (!m_list) {

@@ -23,6 +23,9 @@ public:
     /// Those of another description. A list that is open is closed.
     void setRemarks(const QVector<SvdMessage>& remarks, qint64 count);
 
+    /// As high as a line of text, so that the status bar is as high with remarks as without.
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// The register at @p path, which a remark concerns, is to be shown.
     void registerChosen(const QString& path);
