@@ -513,7 +513,7 @@ void tst_CommandLine::aWrongCallWritesNothing_data()
     const auto row = [](const char* name, const QByteArray& description, const char* more, const char* part) {
         QTest::newRow(name) << description << QString::fromLatin1(more) << QString::fromLatin1(part);
     };
-    row("a description that is no XML", "hello", "", "device.svd:1:2: ");
+    row("a description that is no XML", "hello", "", "device.svd:1:1: ");
     row("a description without peripherals", "\n <device><name>D</name></device>", "", "device.svd:2:2: ");
     row("an unknown path to set", testDevice(), "--set P.X=1", "unknown path \"P.X\"");
     row("an unknown path to select", testDevice(), "--select P.R.X", "unknown path \"P.R.X\"");
