@@ -30,8 +30,8 @@ void allowMessages(QtMsgType level, const QRegularExpression& pattern);
 /*!
     Fails the run on every message that nobody expects: the test function in which it comes, or the program, where no
     function runs or another thread speaks. A message is expected when a MessageRecorder takes it, when expectMessage()
-    announced it, when allowMessages() lets it pass, or when any test may cause it: the platform's noise, and the debug messages by which the library's global
-    object tells of its creation.
+    announced it, when allowMessages() lets it pass, or when any test may cause it: the platform's noise, and the debug
+    messages by which the library's global object tells of its creation.
 
     Warnings and worse count whoever sends them; of the others only those without a logging category, since a category
     may have been switched on from outside. There is one guard in a program, made before the application: see TestMain.h.

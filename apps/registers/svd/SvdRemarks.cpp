@@ -4,6 +4,7 @@
 #include "svd/SvdDim.h"
 #include "text/Quoted.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -23,17 +24,40 @@ QString shownName(const SvdDescription& description, const RawNode& node)
     return indices ? copyName(node.name, indices->at(0), indices->count()) : node.name;
 }
 
-QString registerPath(const SvdDescription& description, qint32 node)
+/// The paths of registers. Many remarks concern one register or array, whose index is read for the first of them.
+class RegisterPaths
 {
-    if (node == kNoNode || description.node(node).kind != NodeKind::Register) {
-        return QString();
+public:
+    explicit RegisterPaths(const SvdDescription& description)
+        : m_description(description)
+    {
     }
-    QStringList names;
-    for (qint32 at = node; at != kNoNode; at = description.node(at).parent) {
-        names.prepend(shownName(description, description.node(at)));
+
+    QString of(qint32 node)
+    {
+        if (node == kNoNode || m_description.node(node).kind != NodeKind::Register) {
+            return QString();
+        }
+        QStringList names;
+        for (qint32 at = node; at != kNoNode; at = m_description.node(at).parent) {
+            names.prepend(nameOf(at));
+        }
+        return names.join(QLatin1Char('.'));
     }
-    return names.join(QLatin1Char('.'));
-}
+
+private:
+    const QString& nameOf(qint32 node)
+    {
+        auto found = m_names.find(node);
+        if (found == m_names.end()) {
+            found = m_names.insert(node, shownName(m_description, m_description.node(node)));
+        }
+        return *found;
+    }
+
+    const SvdDescription& m_description;
+    QHash<qint32, QString> m_names;
+};
 
 bool isBefore(const SvdPosition& a, const SvdPosition& b)
 {
@@ -67,10 +91,11 @@ QVector<SvdMessage> SvdRemarks::messages(const SvdDescription& description, cons
     std::vector<Remark> sorted = m_remarks;
     std::stable_sort(sorted.begin(), sorted.end(),
                      [](const Remark& a, const Remark& b) { return isBefore(a.position, b.position); });
+    RegisterPaths paths(description);
     QVector<SvdMessage> result;
     result.reserve(static_cast<int>(sorted.size()));
     for (const Remark& remark : sorted) {
-        const QString path = registerPath(description, remark.node);
+        const QString path = paths.of(remark.node);
         const bool isShown = !path.isEmpty() && device.findRegister(path) >= 0;
         result.append(
             {device.sourceFile, remark.position.line, remark.position.column, remark.text, isShown ? path : QString()});

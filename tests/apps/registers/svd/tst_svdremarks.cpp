@@ -62,6 +62,7 @@ private Q_SLOTS:
     void aSharedFieldIsRemarkedOnce();
     void ofVeryManyRemarksTheNumberIsTold();
     void veryManyReferencesMayLeadNowhere();
+    void veryManyRemarksMayConcernOneLongArray();
     void aRemarkIsOneLineOfPlainText_data();
     void aRemarkIsOneLineOfPlainText();
     void goodDescriptionsHaveNoRemarks();
@@ -550,6 +551,32 @@ void tst_SvdRemarks::veryManyReferencesMayLeadNowhere()
     const SvdResult result = read(deviceOf(registersXml + reg("S", "", fields)));
     VERIFY_READ(result);
     QCOMPARE(result.remarkCount, qint64(2 * kCount));
+}
+
+//! Each names the array's first register, whose name stands at the begin of a list that is long to read.
+void tst_SvdRemarks::veryManyRemarksMayConcernOneLongArray()
+{
+    constexpr int kCopies = 100000;
+    constexpr int kFields = 9000;
+    QByteArray index = "FIRST";
+    for (int i = 1; i < kCopies; ++i) {
+        index += ",N" + QByteArray::number(i);
+    }
+    QByteArray xml =
+        "<device><name>D</name><peripherals><peripheral><name>P</name><baseAddress>0</baseAddress><registers>"
+        "<register><dim>" +
+        QByteArray::number(kCopies) + "</dim><dimIncrement>4</dimIncrement><dimIndex>" + index +
+        "</dimIndex><name>R_%s</name><addressOffset>0</addressOffset><fields>";
+    for (int i = 0; i < kFields; ++i) {
+        xml += "<field><name>F</name><bitOffset>0</bitOffset><bitWidth>0</bitWidth></field>";
+    }
+    xml += "</fields></register></registers></peripheral></peripherals></device>";
+    const SvdResult result = read(xml);
+    VERIFY_READ(result);
+    QCOMPARE(result.remarks.size(), kFields);
+    for (const SvdMessage& remark : result.remarks) {
+        QCOMPARE(remark.path, QStringLiteral("P.R_FIRST"));
+    }
 }
 
 void tst_SvdRemarks::aRemarkIsOneLineOfPlainText_data()
